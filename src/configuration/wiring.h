@@ -1,0 +1,12 @@
+// Connects the configuration manager to its handlers.
+#pragma once
+
+#include "platform/platform.h"
+#include "screens.h"
+
+namespace brooklander {
+
+// The screens and the platform must outlive the use of the screens.
+void wire_configuration(Screens& screens, Platform& platform);
+
+}  // namespace brooklander

@@ -1,0 +1,71 @@
+#include "conversion/characteristics.h"
+
+#include <string>
+
+#include "characteristics/defaults_file.h"
+#include "platform/fatal_failure.h"
+#include "shared/text_reading.h"
+
+namespace brooklander {
+namespace {
+
+CharacteristicPieces pieces_of(std::string_view name, std::string_view line) {
+    std::string before(trim(name));
+    for (auto field = defaults_field::procedure_source; field <= defaults_field::duration;
+         ++field) {
+        before += '~';
+        before += conversion_value(line, field);
+    }
+    before += '~';
+    std::string behind;
+    for (auto field = defaults_field::lab; field <= defaults_field::detection_limit_unit;
+         ++field) {
+        behind += '~';
+        behind += conversion_value(line, field);
+    }
+    behind += "\r\n";
+    return {BlockText(std::move(before)), BlockText(std::move(behind))};
+}
+
+}  // namespace
+
+void take_characteristics_from_headings(FrmImportFileDisplay& import, int first_column) {
+    Grid& table = import.MSFlexKeldarIN;
+    std::vector<std::string> names;
+    for (int column = first_column; column < table.columns(); ++column) {
+        table.make_current({0, column});
+        names.emplace_back(trim(table.current_text()));
+    }
+    import.lstRows.set_entries(std::move(names));
+    import.lstChar.clear();
+}
+
+void take_characteristics_from_file(FrmImportFileDisplay& import, const Files& files,
+                                    std::string_view path) {
+    std::vector<std::string> names;
+    std::vector<std::string> lines;
+    try {
+        const FileText text = files.read(path);
+        for (LineReader reader(text.view()); !reader.at_end();) {
+            const std::string_view line = reader.next();
+            names.emplace_back(conversion_value(line, defaults_field::name));
+            lines.emplace_back(line);
+        }
+    } catch (const FatalFailure&) {
+        names.clear();
+        lines.clear();
+    }
+    import.lstRows.set_entries(std::move(names));
+    import.lstChar.set_entries(std::move(lines));
+}
+
+std::vector<CharacteristicPieces> characteristic_pieces(const FrmImportFileDisplay& import) {
+    std::vector<CharacteristicPieces> pieces;
+    pieces.reserve(import.lstRows.count());
+    for (std::size_t i = 0; i < import.lstRows.count(); ++i) {
+        pieces.push_back(pieces_of(import.lstRows.entry(i), import.lstChar.entry(i)));
+    }
+    return pieces;
+}
+
+}  // namespace brooklander

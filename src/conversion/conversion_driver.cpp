@@ -1,0 +1,120 @@
+#include "conversion/conversion_driver.h"
+
+#include "conversion/characteristics.h"
+#include "conversion/result_pass.h"
+#include "conversion/row_fields.h"
+#include "platform/code_page.h"
+#include "platform/fatal_failure.h"
+#include "shared/text.h"
+#include "shared/workspace.h"
+
+namespace brooklander {
+namespace {
+
+void prepare(FrmImportFileDisplay& import) {
+    import.frameCategoryResults.hide();
+    import.frameRowSelection.hide();
+    import.frameSameSelections.hide();
+    import.MSFlexResults.clear();
+    import.lstDetectionLimit.clear();
+    import.lstValidate.clear();
+    import.lstRowId.clear();
+    import.set_pointer(Pointer::busy);
+}
+
+// What reading the rows' fields does once for all rows: it fails where it cannot be done, before
+// anything is written, and leaves the current cell where it stopped.
+void check_data_rows(Grid& table, const Assignment& assignment, const RowFields& fields) {
+    const int last_row = table.rows() - 1;
+    if (assignment.first_row > last_row) return;
+    if (last_row >= conversion_row_limit) {
+        throw FatalFailure("The table has " + std::to_string(table.rows()) +
+                           " rows; a table can be converted up to row " +
+                           std::to_string(conversion_row_limit) + " only.");
+    }
+    const auto visit = [&](std::optional<int> column) {
+        if (column) table.make_current({last_row, *column});
+    };
+    visit(assignment.station);
+    visit(assignment.date);
+    visit(assignment.time);
+    visit(assignment.sample);
+    visit(assignment.depth);
+    visit(assignment.comments);
+    visit(assignment.person);
+    visit(fields.last_column_read());
+}
+
+// Row 0 can be a data row, but never has results: only what reading it changes is left of it, and
+// the headings are read after that.
+void read_first_row(Grid& table, const Assignment& assignment, RowFields& fields) {
+    if (assignment.first_row > 0 || table.rows() == 0) return;
+    RowCells cells;
+    table.read_row(0, cells);
+    bool changed = false;
+    fields.read(cells, 1, changed);
+    if (changed) table.write_row(0, cells);
+}
+
+// The look at the result in work, as the last one leaves it.
+void show_last_result(FrmImportFileDisplay& import, const ResultPass& pass) {
+    const GridCell cell = pass.last_cell();
+    if (cell.row == 0) return;
+    import.MSFlexKeldarIN.make_current(cell);
+    import.MSFlexResults.set_rows(0);
+    import.MSFlexResults.add_row(upper(import.lstRows.entry(pass.last_characteristic())) + '\t' +
+                                 std::string(trim(import.MSFlexKeldarIN.current_text())));
+}
+
+void finish(FrmImportFileDisplay& import) {
+    import.set_pointer(Pointer::normal);
+    import.lblConvertedFile.set_text(import.txtSave.text());
+    import.fileConvertedFiles.refresh();
+    import.frameConverted.show();
+    import.lblConverted.set_text(
+        "Has been created and is ready to be loaded in KELDAR through VOX. ** Note that this is a "
+        "tilde ~ delimited file. **");
+    import.frameOutputFile.hide();
+}
+
+}  // namespace
+
+void cmdFormatConfirm_Click(Screens& screens, Files& files) {
+    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
+    Grid& table = import.MSFlexKeldarIN;
+    prepare(import);
+    LineWriter writer(files.append(import.txtSave.text()));
+
+    const Assignment assignment = assignment_of(import);
+    const ActivityDefaults defaults = activity_defaults_of(screens);
+    RowFields fields(assignment, defaults, import.txtActivityID.text());
+    check_data_rows(table, assignment, fields);
+    read_first_row(table, assignment, fields);
+
+    const bool under_configuration = !screens.frmPreferences.optVox.on();
+    if (under_configuration) {
+        take_characteristics_from_file(import, files,
+                                       std::string(workspace::characteristics) +
+                                           screens.frmPreferences.lblSelectedFile.text());
+    } else {
+        take_characteristics_from_headings(import, assignment.first_result);
+    }
+    const std::vector<CharacteristicPieces> characteristics = characteristic_pieces(import);
+    const auto last_column =
+        assignment.first_result + static_cast<int>(characteristics.size()) - 1;
+    import.lblRows.set_text(std::to_string(last_column));
+
+    ResultPass pass(table, assignment, fields, characteristics, writer, under_configuration);
+    try {
+        pass.run();
+    } catch (const FatalFailure&) {
+        if (!under_configuration) throw;
+        pass.run();
+    }
+    writer.finish();
+    show_last_result(import, pass);
+    table.refreshed();
+    finish(import);
+}
+
+}  // namespace brooklander

@@ -1,0 +1,103 @@
+#include "conversion/result_pass.h"
+
+#include <algorithm>
+#include <array>
+
+#include "conversion/conversion_driver.h"
+#include "conversion/result_value.h"
+#include "platform/fatal_failure.h"
+
+namespace brooklander {
+namespace {
+
+constexpr int first_row_visited = 1;
+
+}  // namespace
+
+ResultPass::ResultPass(Grid& table, const Assignment& assignment, RowFields& fields,
+                       const std::vector<CharacteristicPieces>& characteristics,
+                       LineWriter& writer, bool may_restart)
+    : table_(table),
+      assignment_(assignment),
+      fields_(fields),
+      characteristics_(characteristics),
+      writer_(writer),
+      remembers_(may_restart && rewrites_what_rows_read()) {}
+
+// Whether reading a row's fields a second time, after the pass has been over it, could give other
+// fields than the first time.
+bool ResultPass::rewrites_what_rows_read() const {
+    const auto is_result = [this](int column) { return column >= assignment_.first_result; };
+    const auto is_changed = [this](int column) {
+        return column == fields_.repaired_column() || column == fields_.filled_column();
+    };
+    const auto optional_result = [&](const std::optional<int>& column) {
+        return column && is_result(*column);
+    };
+    return is_result(assignment_.station) || is_result(assignment_.date) ||
+           optional_result(assignment_.time) || optional_result(assignment_.sample) ||
+           optional_result(assignment_.depth) || optional_result(assignment_.comments) ||
+           optional_result(assignment_.person) || is_changed(assignment_.station) ||
+           is_changed(assignment_.date) ||
+           (assignment_.time && *assignment_.time == fields_.filled_column());
+}
+
+void ResultPass::run() {
+    last_cell_ = {};
+    if (characteristics_.empty()) return;
+    for (int row = first_row_visited; row < table_.rows(); ++row) visit(row);
+}
+
+void ResultPass::visit(int row) {
+    table_.read_row(row, cells_);
+    changed_ = false;
+    const BlockText& piece = row_piece(row);
+    try {
+        write_results(row, piece);
+    } catch (const FatalFailure&) {
+        put_back(row, piece);
+        throw;
+    }
+    put_back(row, piece);
+}
+
+const BlockText& ResultPass::row_piece(int row) {
+    if (const auto found = remembered_.find(row); found != remembered_.end()) return found->second;
+    if (row < assignment_.first_row) return fields_.none();
+    return fields_.read(cells_, row - assignment_.first_row + 1, changed_);
+}
+
+void ResultPass::write_results(int row, const BlockText& piece) {
+    int column = assignment_.first_result;
+    for (const CharacteristicPieces& characteristic : characteristics_) {
+        if (column >= table_.columns()) table_.make_current({row, column});
+        last_cell_ = {row, column};
+        const std::string_view cell = cells_[column];
+        const std::string_view value = normalised_result(cell);
+        if (value.data() != cell.data() && value != cell) {
+            cells_.set(column, value);
+            changed_ = true;
+        }
+        const std::string_view result = trim(value);
+        if (!result.empty()) {
+            if (row >= conversion_row_limit) {
+                throw FatalFailure("A table can be converted up to row " +
+                                   std::to_string(conversion_row_limit) + " only.");
+            }
+            writer_.put_line(piece, characteristic.before, result, characteristic.behind);
+        }
+        ++column;
+    }
+}
+
+void ResultPass::put_back(int row, const BlockText& piece) {
+    if (!changed_) return;
+    table_.write_row(row, cells_);
+    if (remembers_) remembered_.try_emplace(row, piece);
+}
+
+std::size_t ResultPass::last_characteristic() const {
+    return static_cast<std::size_t>(last_cell_.column - assignment_.first_result);
+}
+
+}  // namespace brooklander

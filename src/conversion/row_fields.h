@@ -1,0 +1,63 @@
+// The fields of a line that a row shares among its results.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "conversion/line_writer.h"
+#include "conversion/run_inputs.h"
+#include "shared/grid.h"
+
+namespace brooklander {
+
+class RowFields {
+  public:
+    // `filler` is what generated activity ids begin with. What is given must outlive the object.
+    RowFields(const Assignment& assignment, const ActivityDefaults& defaults,
+              std::string_view filler);
+
+    // Reads a data row and returns the piece of its lines up to the characteristic's name. A time
+    // of three characters is repaired and a blank activity id filled in the cells; `changed` then
+    // becomes true. The texts put into the cells live until the next call.
+    //
+    // The row's number among the data rows, counted from 1, is the number of a generated id,
+    // whether or not a row before it needed one.
+    const BlockText& read(RowCells& cells, int number, bool& changed);
+
+    // The piece for rows above the first data row: all that comes from a row is empty, and so is
+    // what otherwise stands for a depth that is not given, so that their lines are two tildes short.
+    const BlockText& none();
+
+    // The columns in which read() makes changes, -1 where it makes none.
+    int repaired_column() const { return assignment_.time.value_or(-1); }
+    int filled_column() const;
+
+    // The column that read() looks at last.
+    int last_column_read() const;
+
+  private:
+    struct FromRow {
+        std::string_view station;
+        std::string_view date;
+        std::string_view time;
+        std::string_view activity_id;
+        std::string_view depth;  // with its unit and the tilde behind each
+        std::string_view comments;
+        std::string_view person;
+    };
+
+    std::string_view repaired_time(RowCells& cells, bool& changed);
+    std::string_view activity_id(RowCells& cells, int number, bool& changed);
+    std::string_view depth(const RowCells& cells);
+    const BlockText& piece_of(const FromRow& row);
+
+    const Assignment& assignment_;
+    const ActivityDefaults& defaults_;
+    std::string filler_;
+    BlockText time_;
+    BlockText generated_id_;
+    std::string depth_;
+    BlockText piece_;
+};
+
+}  // namespace brooklander

@@ -1,0 +1,12 @@
+#include "conversion/wiring.h"
+
+#include "conversion/conversion_driver.h"
+
+namespace brooklander {
+
+void wire_conversion(Screens& screens, Platform& platform) {
+    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
+    import.cmdFormatConfirm.on_click = [&] { cmdFormatConfirm_Click(screens, platform.files); };
+}
+
+}  // namespace brooklander

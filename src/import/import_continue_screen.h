@@ -1,0 +1,12 @@
+// A screen that is never shown: it holds what other screens write.
+#pragma once
+
+#include "shared/screen.h"
+
+namespace brooklander {
+
+struct FrmImportContinue : Screen {
+    explicit FrmImportContinue(Desk& desk) : Screen(desk, "frmImportContinue", "Import Continue") {}
+};
+
+}  // namespace brooklander

@@ -1,0 +1,30 @@
+// From the import question to the columns: the output file and the activity ID filler.
+#pragma once
+
+#include "platform/files.h"
+#include "screens.h"
+
+namespace brooklander {
+
+// "Import This File?": Yes leads to the choice of a configuration and names the output file after
+// the input file; No goes back to the start screen.
+void cmdYes_Click(Screens& screens);
+void cmdNo_Click(Screens& screens);
+
+// Creates the output file empty, one of that name included, and asks for the filler. A file that
+// cannot be created is a FatalFailure.
+void cmdSave_Click(Screens& screens, Files& files);
+
+void txtSave_Change(FrmImportFileDisplay& import);
+void txtSave_Click(FrmImportFileDisplay& import);
+
+// Both buttons under the filler: a text typed before Skip is used all the same.
+void leave_activity_filler(FrmImportFileDisplay& import);
+
+// "Use Existing Column Selections ?"
+void cmdColumnYes_Click(FrmImportFileDisplay& import);
+void cmdColumnNo_Click(FrmImportFileDisplay& import);
+
+void mnuExit_Click(Screens& screens);
+
+}  // namespace brooklander

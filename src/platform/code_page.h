@@ -1,0 +1,28 @@
+// The machine's single-byte code page, Windows-1252, and the way to and from UTF-8.
+//
+// Every text inside the program is bytes of this code page. Only the edges convert: windows, the
+// database adapter, the file adapter (names, never contents) and the scenario player.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brooklander {
+
+// The UTF-8 form of a text. Never fails: the five bytes without a letter (81 8D 8F 90 9D) stand for
+// the control characters of the same numbers, so that every byte survives the way there and back.
+std::string to_utf8(std::string_view text);
+
+// The code page form of UTF-8, or nothing when it is not UTF-8 or holds a character that the code
+// page lacks.
+std::optional<std::string> from_utf8(std::string_view utf8);
+
+// The text with every letter that has a capital in the code page made one. Letters without one
+// there (the sharp s, the micro sign) stay.
+std::string upper(std::string_view text);
+
+// Whether two texts are the same but for capitals: the rule for file names.
+bool same_but_for_case(std::string_view one, std::string_view other);
+
+}  // namespace brooklander

@@ -1,0 +1,183 @@
+#include "platform/files/host_files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <utility>
+
+#include "platform/code_page.h"
+#include "platform/fatal_failure.h"
+#include "platform/files/name_pattern.h"
+
+namespace brooklander {
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const std::string& shown, const std::string& what,
+                       const std::error_code& cause) {
+    throw FatalFailure("\"" + shown + "\" cannot be " + what + ": " + cause.message() + ".");
+}
+
+std::error_code last_error() { return {errno, std::generic_category()}; }
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+// Opens without a buffer: every read and write here is a large one of the caller's own.
+OpenFile open_file(const fs::path& file, const char* mode) {
+    OpenFile opened(std::fopen(file.c_str(), mode));
+    if (opened) std::setvbuf(opened.get(), nullptr, _IONBF, 0);
+    return opened;
+}
+
+class HostOutputFile : public OutputFile {
+  public:
+    HostOutputFile(OpenFile file, std::string shown)
+        : file_(std::move(file)), shown_(std::move(shown)) {}
+
+    void write(std::string_view bytes) override {
+        const std::size_t written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get());
+        if (written < bytes.size()) fail(shown_, "written", last_error());
+    }
+
+    void close() override {
+        if (std::fclose(file_.release()) != 0) fail(shown_, "closed", last_error());
+    }
+
+  private:
+    OpenFile file_;
+    std::string shown_;
+};
+
+// The names in a folder that pass a test, by name without regard to case.
+std::vector<std::string> names_in(
+    const fs::path& folder, const std::string& shown,
+    const std::function<bool(const fs::directory_entry&, const std::string&)>& wanted) {
+    std::vector<std::pair<std::string, std::string>> names;
+    std::error_code fault;
+    fs::directory_iterator entry(folder, fault);
+    while (!fault && entry != fs::directory_iterator()) {
+        std::string name = program_name(entry->path().filename());
+        if (!name.empty() && wanted(*entry, name)) names.emplace_back(upper(name), std::move(name));
+        entry.increment(fault);
+    }
+    if (fault) fail(shown, "listed", fault);
+    std::sort(names.begin(), names.end());
+    std::vector<std::string> sorted;
+    sorted.reserve(names.size());
+    for (auto& [key, name] : names) sorted.push_back(std::move(name));
+    return sorted;
+}
+
+bool is_folder(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
+}  // namespace
+
+HostFiles::HostFiles(fs::path drive_c) : paths_(std::move(drive_c)) {}
+
+std::string HostFiles::current_directory() const { return paths_.current_directory().text(); }
+
+void HostFiles::change_directory(std::string_view path) {
+    ProgramPath target = paths_.parse(path);
+    std::error_code fault;
+    const bool folder = fs::is_directory(paths_.host(target), fault);
+    if (!folder) {
+        fail(to_utf8(path), "made the current directory",
+             fault ? fault : std::make_error_code(std::errc::not_a_directory));
+    }
+    paths_.set_current_directory(std::move(target));
+}
+
+bool HostFiles::make_folder(std::string_view path) {
+    if (path.empty()) return false;
+    try {
+        std::error_code ignored;
+        return fs::create_directory(host_path(path), ignored);
+    } catch (const FatalFailure&) {
+        return false;
+    }
+}
+
+FileText HostFiles::read(std::string_view path) const {
+    return read_host_file(host_path(path), to_utf8(path));
+}
+
+std::unique_ptr<OutputFile> HostFiles::create(std::string_view path) { return open(path, "wb"); }
+
+std::unique_ptr<OutputFile> HostFiles::append(std::string_view path) { return open(path, "ab"); }
+
+std::unique_ptr<OutputFile> HostFiles::open(std::string_view path, const char* mode) const {
+    OpenFile file = open_file(host_path(path), mode);
+    if (!file) fail(to_utf8(path), "opened for writing", last_error());
+    return std::make_unique<HostOutputFile>(std::move(file), to_utf8(path));
+}
+
+void HostFiles::remove(std::string_view path) {
+    const fs::path host = host_path(path);
+    std::error_code fault;
+    if (is_folder(host)) fault = std::make_error_code(std::errc::is_a_directory);
+    if (!fault && !fs::remove(host, fault) && !fault) {
+        fault = std::make_error_code(std::errc::no_such_file_or_directory);
+    }
+    if (fault) fail(to_utf8(path), "deleted", fault);
+}
+
+std::string HostFiles::full_path(std::string_view path) const { return paths_.parse(path).text(); }
+
+std::vector<std::string> HostFiles::drives() const { return paths_.drives(); }
+
+std::vector<std::string> HostFiles::folders_in(std::string_view path) const {
+    return names_in(host_path(path), to_utf8(path),
+                    [](const fs::directory_entry& entry, const std::string& name) {
+                        return name.front() != '.' && is_folder(entry.path());
+                    });
+}
+
+std::vector<std::string> HostFiles::files_in(std::string_view path,
+                                             std::string_view pattern) const {
+    return names_in(host_path(path), to_utf8(path),
+                    [pattern](const fs::directory_entry& entry, const std::string& name) {
+                        return name_matches(name, pattern) && !is_folder(entry.path());
+                    });
+}
+
+fs::path HostFiles::host_path(std::string_view path) const {
+    return paths_.host(paths_.parse(path));
+}
+
+fs::path home_folder() {
+    const char* const home = std::getenv("HOME");
+    return home != nullptr && *home != '\0' ? fs::path(home) : fs::path("/");
+}
+
+FileText read_host_file(const fs::path& file, const std::string& shown) {
+    if (is_folder(file)) fail(shown, "read", std::make_error_code(std::errc::is_a_directory));
+    const OpenFile opened = open_file(file, "rb");
+    if (!opened) fail(shown, "opened", last_error());
+    std::error_code ignored;
+    const auto told_size = fs::file_size(file, ignored);
+    std::size_t capacity = (ignored ? 0 : static_cast<std::size_t>(told_size)) + FileText::slack;
+    auto bytes = std::make_unique_for_overwrite<char[]>(capacity);
+    std::size_t size = 0;
+    for (;;) {
+        const std::size_t got = std::fread(bytes.get() + size, 1, capacity - size, opened.get());
+        size += got;
+        if (capacity - size < FileText::slack) {
+            capacity *= 2;
+            auto larger = std::make_unique_for_overwrite<char[]>(capacity);
+            std::copy_n(bytes.get(), size, larger.get());
+            bytes = std::move(larger);
+        }
+        if (got == 0) return {std::move(bytes), size};
+    }
+}
+
+}  // namespace brooklander

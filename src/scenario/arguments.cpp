@@ -1,0 +1,30 @@
+#include "scenario/arguments.h"
+
+#include <algorithm>
+
+#include "scenario/field_names.h"
+#include "scenario/scenario_error.h"
+#include "scenario/words.h"
+
+namespace brooklander::scenario {
+
+void Arguments::fail() const { throw WrongLine("The command is written: " + usage_ + "."); }
+
+int Arguments::number(std::size_t index, std::string_view of_what) const {
+    return number_in(text(index), of_what);
+}
+
+std::string Arguments::field(std::size_t index, std::initializer_list<FieldKind> kinds) const {
+    const std::string& path = text(index);
+    const FieldKind kind = kind_of(path);
+    const bool suits = kinds.size() == 0
+                           ? kind != FieldKind::screen
+                           : std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+    if (!suits) {
+        throw WrongLine(path + " is a " + std::string(name_of(kind)) + "; that cannot be said of " +
+                        "it or done with it.");
+    }
+    return path;
+}
+
+}  // namespace brooklander::scenario

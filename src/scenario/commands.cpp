@@ -1,0 +1,154 @@
+#include "scenario/commands.h"
+
+#include <fstream>
+#include <map>
+#include <system_error>
+
+#include "platform/code_page.h"
+#include "scenario/arguments.h"
+#include "scenario/scenario_error.h"
+#include "scenario/stage.h"
+
+namespace brooklander::scenario {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Act = std::function<void(Stage&)>;
+
+Step always(Act act) { return {{}, Works::always, false, std::move(act)}; }
+
+void check(const std::error_code& fault, const std::string& what) {
+    if (fault) throw Unmet(what + ": " + fault.message() + ".");
+}
+
+fs::path with_folders(const Stage& stage, const std::string& path) {
+    const fs::path target = stage.host_path(path);
+    std::error_code fault;
+    fs::create_directories(target.parent_path(), fault);
+    check(fault, "The folders of " + in_quotes(path) + " cannot be made");
+    return target;
+}
+
+Step copy_step(const Arguments& arguments) {
+    arguments.want(2);
+    return always([from = host_file(arguments.text(0), arguments.folder()),
+                   to = arguments.text(1)](Stage& stage) {
+        std::error_code fault;
+        fs::copy_file(from, with_folders(stage, to), fs::copy_options::overwrite_existing, fault);
+        check(fault, "\"" + from.string() + "\" cannot be copied to " + in_quotes(to));
+    });
+}
+
+Step write_step(const Arguments& arguments) {
+    arguments.want(2);
+    return always([path = arguments.text(0), text = arguments.text(1)](Stage& stage) {
+        std::ofstream file(with_folders(stage, path), std::ios::binary);
+        file << text;
+        if (!file.flush()) throw Unmet(in_quotes(path) + " cannot be written.");
+    });
+}
+
+Step remove_step(const Arguments& arguments) {
+    arguments.want(1);
+    return always([path = arguments.text(0)](Stage& stage) {
+        const fs::path target = stage.host_path(path);
+        if (target == stage.host_path("c:\\") || target == target.root_path()) {
+            throw Unmet("A whole drive is not removed.");
+        }
+        std::error_code fault;
+        fs::remove_all(target, fault);
+        check(fault, in_quotes(path) + " cannot be removed");
+    });
+}
+
+Step make_step(const Arguments& arguments) {
+    arguments.want(1);
+    return always([path = arguments.text(0)](Stage& stage) {
+        std::error_code fault;
+        fs::create_directories(stage.host_path(path), fault);
+        check(fault, in_quotes(path) + " cannot be made");
+    });
+}
+
+Step start_step(const Arguments& arguments) {
+    arguments.want(0);
+    return always([](Stage& stage) { stage.start(); });
+}
+
+Step fatal_step(const Arguments& arguments) {
+    arguments.want(0);
+    return {{}, Works::after_start, true, [](Stage& stage) { stage.expect_fatal(); }};
+}
+
+Step ended_step(const Arguments& arguments) {
+    arguments.want(0);
+    return {{}, Works::after_start, false, [](Stage& stage) { stage.expect_ended(); }};
+}
+
+// Undrawn, there is nothing to take a picture of.
+Step shot_step(const Arguments& arguments) {
+    arguments.want(1);
+    if (arguments.text(0).find_first_of("/\\") != std::string::npos) {
+        throw WrongLine("A picture's name has no folder.");
+    }
+    return {{}, Works::while_running, false, [](Stage&) {}};
+}
+
+struct Command {
+    std::string usage;
+    std::function<Step(const std::string& verb, const Arguments&)> maker;
+};
+
+template <typename Maker>
+Command command(std::string usage, Maker maker) {
+    return {std::move(usage),
+            [maker](const std::string&, const Arguments& arguments) { return maker(arguments); }};
+}
+
+const std::map<std::string, Command, std::less<>>& commands() {
+    static const std::map<std::string, Command, std::less<>> all{
+        {"copy", command("copy HOST PATH", copy_step)},
+        {"write", command("write PATH TEXT", write_step)},
+        {"remove", command("remove PATH", remove_step)},
+        {"make", command("make PATH", make_step)},
+        {"start", command("start", start_step)},
+        {"click", {"click FIELD", user_step}},
+        {"type", {"type FIELD TEXT", user_step}},
+        {"select", {"select FIELD ENTRY", user_step}},
+        {"cell", {"cell FIELD ROW COLUMN", user_step}},
+        {"keys", {"keys FIELD KEYS", user_step}},
+        {"refused", command("refused COMMAND", refused_step)},
+        {"force", command("force COMMAND", force_step)},
+        {"open", {"open SCREEN", program_step}},
+        {"set", {"set FIELD TEXT", program_step}},
+        {"add", {"add FIELD TEXT", program_step}},
+        {"setcell", {"setcell FIELD ROW COLUMN TEXT", program_step}},
+        {"expect", command("expect FIELD WHAT ...", expect_step)},
+        {"file", command("file PATH WHAT ...", file_step)},
+        {"fatal", command("fatal", fatal_step)},
+        {"ended", command("ended", ended_step)},
+        {"print", command("print FIELD", print_step)},
+        {"shot", command("shot NAME", shot_step)},
+    };
+    return all;
+}
+
+}  // namespace
+
+Step step_of(const std::vector<std::string>& words, const fs::path& folder) {
+    const auto found = commands().find(words.front());
+    if (found == commands().end()) {
+        throw WrongLine("There is no command " + in_quotes(words.front()) + ".");
+    }
+    const auto& [verb, command] = *found;
+    const Arguments arguments({words.begin() + 1, words.end()}, folder, command.usage);
+    return command.maker(verb, arguments);
+}
+
+fs::path host_file(const std::string& word, const fs::path& folder) {
+    const std::string utf8 = to_utf8(word);
+    return folder / fs::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+}  // namespace brooklander::scenario

@@ -1,0 +1,20 @@
+// The commands of the scenario language.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "scenario/script.h"
+
+namespace brooklander::scenario {
+
+// The step that a line's words ask for, its place left open. HOST words are taken from `folder`.
+// Everything that the line alone can tell is checked here: the number of words, the names of
+// fields, whether a command suits the kind of its field. Throws WrongLine.
+Step step_of(const std::vector<std::string>& words, const std::filesystem::path& folder);
+
+// A HOST word as a path of the machine.
+std::filesystem::path host_file(const std::string& word, const std::filesystem::path& folder);
+
+}  // namespace brooklander::scenario

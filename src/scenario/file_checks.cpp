@@ -1,0 +1,155 @@
+#include "platform/fatal_failure.h"
+#include "scenario/arguments.h"
+#include "scenario/commands.h"
+#include "scenario/scenario_error.h"
+#include "scenario/stage.h"
+#include "shared/text_reading.h"
+
+namespace brooklander::scenario {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Check = std::function<void(const fs::path& file, const std::string& shown)>;
+
+FileText text_of(const fs::path& file, const std::string& shown) {
+    try {
+        return read_host_file(file, shown);
+    } catch (const FatalFailure& failure) {
+        throw Unmet(failure.what());
+    }
+}
+
+void want(bool holds, const std::string& shown, const std::string& what) {
+    if (!holds) throw Unmet(shown + " " + what);
+}
+
+Check whole_text_check(std::function<void(std::string_view, const std::string&)> check) {
+    return [check = std::move(check)](const fs::path& file, const std::string& shown) {
+        const FileText text = text_of(file, shown);
+        check(text.view(), shown);
+    };
+}
+
+// The lines, none of which may end otherwise than by carriage return and line feed.
+std::vector<std::string_view> lines_of(std::string_view text, const std::string& shown) {
+    std::vector<std::string_view> lines;
+    for (LineReader reader(text); !reader.at_end();) {
+        lines.push_back(reader.next());
+        const char* const end = lines.back().data() + lines.back().size();
+        const std::string_view behind(end, static_cast<std::size_t>(text.end() - end));
+        want(behind.starts_with("\r\n"), shown,
+             "has a line " + std::to_string(lines.size()) +
+                 " that carriage return and line feed do not end.");
+    }
+    return lines;
+}
+
+Check lines_check(const Arguments& arguments) {
+    arguments.want(3);
+    const int count = arguments.number(2, "count");
+    return whole_text_check([count](std::string_view text, const std::string& shown) {
+        const auto lines = lines_of(text, shown);
+        want(lines.size() == static_cast<std::size_t>(count), shown,
+             "has " + std::to_string(lines.size()) + " lines, expected " + std::to_string(count) +
+                 ".");
+    });
+}
+
+Check line_check(const Arguments& arguments) {
+    arguments.want(4);
+    const int number = arguments.number(2, "line");
+    if (number == 0) throw WrongLine("Lines are counted from 1.");
+    return whole_text_check([number, expected = arguments.text(3)](std::string_view text,
+                                                                   const std::string& shown) {
+        LineReader reader(text);
+        std::string_view line;
+        for (int passed = 0; passed < number; ++passed) {
+            want(!reader.at_end(), shown,
+                 "has " + std::to_string(passed) + " lines, expected a line " +
+                     std::to_string(number) + ".");
+            line = reader.next();
+        }
+        want(line == expected, shown,
+             "line " + std::to_string(number) + ": expected " + in_quotes(expected) + ", found " +
+                 in_quotes(line) + ".");
+    });
+}
+
+// Where two texts first differ, for a message.
+std::string difference(std::string_view found, std::string_view expected) {
+    std::size_t at = 0;
+    std::size_t line = 1;
+    std::size_t line_start = 0;
+    while (at < found.size() && at < expected.size() && found[at] == expected[at]) {
+        if (found[at] == '\n') {
+            ++line;
+            line_start = at + 1;
+        }
+        ++at;
+    }
+    const auto line_at = [line_start](std::string_view text) {
+        return in_quotes(text.substr(line_start, text.find('\n', line_start) - line_start));
+    };
+    return "differs in line " + std::to_string(line) + ": expected " + line_at(expected) +
+           ", found " + line_at(found) + ".";
+}
+
+Check same_check(const Arguments& arguments) {
+    arguments.want(3);
+    return [other = host_file(arguments.text(2), arguments.folder())](const fs::path& file,
+                                                                      const std::string& shown) {
+        const FileText found = text_of(file, shown);
+        const FileText expected = text_of(other, other.string());
+        want(found.view() == expected.view(), shown, difference(found.view(), expected.view()));
+    };
+}
+
+Check holds_check(const Arguments& arguments, bool wanted) {
+    arguments.want(3);
+    return whole_text_check([wanted, part = arguments.text(2)](std::string_view text,
+                                                               const std::string& shown) {
+        const bool holds = text.find(part) != std::string_view::npos;
+        want(holds == wanted, shown, (wanted ? "lacks " : "holds ") + in_quotes(part) + ".");
+    });
+}
+
+Check presence_check(const Arguments& arguments, bool wanted) {
+    arguments.want(2);
+    return [wanted](const fs::path& file, const std::string& shown) {
+        std::error_code ignored;
+        want(fs::exists(file, ignored) == wanted, shown, wanted ? "is not there." : "is there.");
+    };
+}
+
+Check empty_check(const Arguments& arguments) {
+    arguments.want(2);
+    return whole_text_check([](std::string_view text, const std::string& shown) {
+        want(text.empty(), shown, "has " + std::to_string(text.size()) + " bytes, expected none.");
+    });
+}
+
+Check check_of(const Arguments& arguments) {
+    if (arguments.count() < 2) arguments.fail();
+    const std::string& what = arguments.text(1);
+    if (what == "exists") return presence_check(arguments, true);
+    if (what == "missing") return presence_check(arguments, false);
+    if (what == "empty") return empty_check(arguments);
+    if (what == "lines") return lines_check(arguments);
+    if (what == "line") return line_check(arguments);
+    if (what == "same") return same_check(arguments);
+    if (what == "holds") return holds_check(arguments, true);
+    if (what == "lacks") return holds_check(arguments, false);
+    throw WrongLine("Nothing can be said of a file by the word " + in_quotes(what) + ".");
+}
+
+}  // namespace
+
+Step file_step(const Arguments& arguments) {
+    const Check check = check_of(arguments);
+    return {{}, Works::always, false, [path = arguments.text(0), check](Stage& stage) {
+                check(stage.host_path(path), in_quotes(path));
+            }};
+}
+
+}  // namespace brooklander::scenario

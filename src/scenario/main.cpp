@@ -1,0 +1,103 @@
+// The scenario player: plays files of commands on the program's screens.
+
+#include <algorithm>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "platform/code_page.h"
+#include "scenario/options.h"
+#include "scenario/scenario_error.h"
+#include "scenario/script.h"
+#include "scenario/stage.h"
+
+namespace brooklander::scenario {
+namespace {
+
+constexpr int all_passed = 0;
+constexpr int something_failed = 1;
+constexpr int not_a_scenario = 2;
+
+// Prints lines, with `*` in the place of every character of a secret.
+class Output {
+  public:
+    void hide(const std::string& secret) {
+        if (secret.empty()) return;
+        const std::string utf8 = to_utf8(secret);
+        const std::string in_json = nlohmann::json(utf8).dump();
+        for (const std::string& form :
+             {in_json.substr(1, in_json.size() - 2), in_quotes(secret), utf8}) {
+            const bool is_quoted = form.size() > 1 && form.front() == '"' && form.back() == '"';
+            secrets_.push_back(is_quoted ? form.substr(1, form.size() - 2) : form);
+        }
+    }
+
+    void print(std::string line) const {
+        for (const std::string& secret : secrets_) {
+            for (auto at = line.find(secret); at != std::string::npos;
+                 at = line.find(secret, at + secret.size())) {
+                line.replace(at, secret.size(), secret.size(), '*');
+            }
+        }
+        std::cout << line << std::endl;
+    }
+
+  private:
+    std::vector<std::string> secrets_;
+};
+
+// Plays one file from a fresh program; returns its exit status.
+int play(const std::filesystem::path& file, const Options& options, const Output& output) {
+    try {
+        const std::vector<Step> steps = read_script(file, options.variables);
+        Stage stage(options.home, [&output](const std::string& line) { output.print(line); });
+        stage.play(steps);
+        return all_passed;
+    } catch (const WrongLine& wrong) {
+        output.print(wrong.what());
+        return not_a_scenario;
+    } catch (const Unmet& unmet) {
+        output.print(unmet.what());
+        return something_failed;
+    }
+}
+
+int play_all(Options options) {
+    Output output;
+    for (const std::string& name : options.secrets) {
+        const std::string value = ask_for_secret(name);
+        output.hide(value);
+        options.variables.insert_or_assign(name, value);
+    }
+    int worst = all_passed;
+    std::size_t passed = 0;
+    for (const auto& file : options.files) {
+        const int status = play(file, options, output);
+        worst = std::max(worst, status);
+        if (status == all_passed) ++passed;
+    }
+    output.print(std::to_string(passed) + " passed, " +
+                 std::to_string(options.files.size() - passed) + " failed");
+    return worst;
+}
+
+int run(int argc, char** argv) {
+    try {
+        Options options = options_of(argc, argv);
+        if (options.help) {
+            std::cout << usage() << '\n';
+            return all_passed;
+        }
+        if (options.drawn) {
+            throw WrongLine("--drawn needs windows, and this program has none yet.");
+        }
+        return play_all(std::move(options));
+    } catch (const WrongLine& wrong) {
+        std::cerr << wrong.what() << '\n' << usage() << '\n';
+        return not_a_scenario;
+    }
+}
+
+}  // namespace
+}  // namespace brooklander::scenario
+
+int main(int argc, char** argv) { return brooklander::scenario::run(argc, argv); }

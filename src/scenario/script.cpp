@@ -1,0 +1,95 @@
+#include "scenario/script.h"
+
+#include <algorithm>
+
+#include "platform/fatal_failure.h"
+#include "platform/files/host_files.h"
+#include "scenario/commands.h"
+#include "scenario/scenario_error.h"
+
+namespace brooklander::scenario {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
+class ScriptReader {
+  public:
+    explicit ScriptReader(const Variables& variables) : variables_(variables) {}
+
+    void read_file(const fs::path& file) {
+        const std::string shown = file.string();
+        FileText text;
+        try {
+            text = read_host_file(file, shown);
+        } catch (const FatalFailure& failure) {
+            throw WrongLine(failure.what());
+        }
+        read_text(text.view(), file);
+    }
+
+    void read_text(std::string_view text, const fs::path& file) {
+        open_files_.push_back(file.lexically_normal());
+        if (text.starts_with(byte_order_mark)) text.remove_prefix(byte_order_mark.size());
+        for (int number = 1; !text.empty(); ++number) {
+            std::string_view line = text.substr(0, text.find('\n'));
+            text.remove_prefix(std::min(line.size() + 1, text.size()));
+            if (line.ends_with('\r')) line.remove_suffix(1);
+            read_line(line, file, file.string() + ":" + std::to_string(number));
+        }
+        open_files_.pop_back();
+    }
+
+    std::vector<Step> steps() { return std::move(steps_); }
+
+  private:
+    void read_line(std::string_view line, const fs::path& file, const std::string& place) {
+        const std::size_t depth = open_files_.size();
+        try {
+            const std::vector<std::string> words = words_of(line, variables_);
+            if (words.empty()) return;
+            if (words.front() != "include") {
+                Step step = step_of(words, file.parent_path());
+                step.place = place;
+                steps_.push_back(std::move(step));
+                return;
+            }
+            include(words, file);
+        } catch (const WrongLine& wrong) {
+            // A line of an included file has been placed already.
+            if (open_files_.size() > depth) throw;
+            throw WrongLine(place + ": " + wrong.what());
+        }
+    }
+
+    void include(const std::vector<std::string>& words, const fs::path& file) {
+        if (words.size() != 2) throw WrongLine("include wants a file.");
+        const fs::path included = host_file(words[1], file.parent_path());
+        const bool open = std::find(open_files_.begin(), open_files_.end(),
+                                    included.lexically_normal()) != open_files_.end();
+        if (open) throw WrongLine("This file includes itself.");
+        read_file(included);
+    }
+
+    const Variables& variables_;
+    std::vector<Step> steps_;
+    std::vector<fs::path> open_files_;
+};
+
+}  // namespace
+
+std::vector<Step> read_script(const fs::path& file, const Variables& variables) {
+    ScriptReader reader(variables);
+    reader.read_file(file);
+    return reader.steps();
+}
+
+std::vector<Step> read_script_text(std::string_view text, const fs::path& file,
+                                   const Variables& variables) {
+    ScriptReader reader(variables);
+    reader.read_text(text, file);
+    return reader.steps();
+}
+
+}  // namespace brooklander::scenario

@@ -1,0 +1,84 @@
+#include "scenario/user.h"
+
+#include <array>
+#include <utility>
+
+#include "scenario/scenario_error.h"
+#include "scenario/words.h"
+
+namespace brooklander::scenario {
+namespace {
+
+constexpr std::array<std::pair<std::string_view, Key>, 10> named_keys{{
+    {"{Enter}", {Key::Name::enter}},
+    {"{Delete}", {Key::Name::erase}},
+    {"{Backspace}", {Key::Name::backspace}},
+    {"{Up}", {Key::Name::up}},
+    {"{Down}", {Key::Name::down}},
+    {"{Left}", {Key::Name::left}},
+    {"{Right}", {Key::Name::right}},
+    {"{Tab}", {Key::Name::tab}},
+    {"{Escape}", {Key::Name::escape}},
+    {"{Space}", Key::of(' ')},
+}};
+
+Key take_named_key(std::string_view& text) {
+    for (const auto& [name, key] : named_keys) {
+        if (!text.starts_with(name)) continue;
+        text.remove_prefix(name.size());
+        return key;
+    }
+    throw WrongLine("There is no key " + in_quotes(text.substr(0, text.find('}') + 1)) + ".");
+}
+
+}  // namespace
+
+void click(Field& field) {
+    switch (field.kind()) {
+        case FieldKind::button: static_cast<Button&>(field).press(); break;
+        case FieldKind::menu_entry: static_cast<MenuEntry&>(field).choose(); break;
+        case FieldKind::option: static_cast<Option&>(field).choose(); break;
+        case FieldKind::tick_box: static_cast<TickBox&>(field).turn_over(); break;
+        case FieldKind::text_box: static_cast<TextBox&>(field).click(); break;
+        default: throw Unmet(field.path() + " cannot be clicked.");
+    }
+}
+
+std::size_t entry_index(const EntryList& list, std::string_view entry) {
+    const auto index = list.find(entry);
+    if (!index) throw Unmet(list.path() + " has no entry " + in_quotes(entry) + ".");
+    return *index;
+}
+
+void want_cell(const Grid& grid, GridCell cell) {
+    if (cell.row < grid.rows() && cell.column < grid.columns()) return;
+    throw Unmet(grid.path() + " has no cell " + std::to_string(cell.row) + " " +
+                std::to_string(cell.column) + "; it has " + std::to_string(grid.rows()) +
+                " rows and " + std::to_string(grid.columns()) + " columns.");
+}
+
+std::vector<Key> keys_in(std::string_view text) {
+    std::vector<Key> keys;
+    while (!text.empty()) {
+        if (text.front() == '{') {
+            keys.push_back(take_named_key(text));
+            continue;
+        }
+        if (static_cast<unsigned char>(text.front()) < ' ') {
+            throw WrongLine("A character that no key types stands among the keys.");
+        }
+        keys.push_back(Key::of(text.front()));
+        text.remove_prefix(1);
+    }
+    return keys;
+}
+
+void press_keys(Field& field, const std::vector<Key>& keys) {
+    if (field.kind() == FieldKind::text_box) {
+        static_cast<TextBox&>(field).press_keys(keys);
+        return;
+    }
+    for (const Key key : keys) static_cast<Grid&>(field).press_key(key);
+}
+
+}  // namespace brooklander::scenario

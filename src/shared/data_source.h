@@ -1,0 +1,38 @@
+// Data sources: where a screen's grids take rows of the database from.
+#pragma once
+
+#include <string_view>
+
+#include "platform/database.h"
+#include "shared/bound_columns.h"
+#include "shared/grid.h"
+
+namespace brooklander {
+
+// Holds what a screen gives for a query; refreshing it runs the statement and fills the grid that
+// is bound to it. Its text is the record source.
+class DataSource : public PlacedField {
+  public:
+    DataSource(Field& container, std::string_view name)
+        : PlacedField(FieldKind::data_source, container, name, {}, hidden) {}
+
+    // Binds a grid, which then shows the statement's columns as `columns` says.
+    void bind(Grid& grid, BoundColumns columns = {});
+
+    // The four values, in the order in which screens give them.
+    void connect(std::string_view connection, std::string_view user, std::string_view password);
+    void set_record_source(std::string_view statement) { set_text(statement); }
+    const std::string& record_source() const { return text(); }
+
+    // Runs the statement and fills the bound grid. A FatalFailure when the statement fails.
+    void refresh(Database& database);
+
+  private:
+    void fill(const QueryResult& result);
+
+    Query query_;
+    Grid* grid_ = nullptr;
+    BoundColumns columns_;
+};
+
+}  // namespace brooklander

@@ -1,0 +1,159 @@
+#include "shared/fields.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brooklander {
+
+void Button::press() {
+    set_focus();
+    run(on_click);
+}
+
+void TextBox::set_text(std::string_view text) {
+    if (typing_.most > 0) text = text.substr(0, typing_.most);
+    if (store_text(text)) run(on_change);
+}
+
+void TextBox::click() {
+    set_focus();
+    run(on_click);
+}
+
+void TextBox::type(std::string_view text) {
+    set_focus();
+    if (text.empty()) {
+        clear_text();
+        return;
+    }
+    set_text(text.substr(0, 1));
+    for (const char character : text.substr(1)) set_text(this->text() + character);
+}
+
+void TextBox::press_keys(const std::vector<Key>& keys) {
+    set_focus();
+    std::size_t caret = text().size();
+    for (const Key key : keys) {
+        caret = std::min(caret, text().size());
+        const std::string before = text().substr(0, caret);
+        const std::string behind = text().substr(caret);
+        switch (key.name) {
+            case Key::Name::character:
+                if (typing_.most > 0 && text().size() >= typing_.most) break;
+                set_text(before + key.character + behind);
+                ++caret;
+                break;
+            case Key::Name::backspace:
+                if (before.empty()) break;
+                --caret;
+                set_text(before.substr(0, caret) + behind);
+                break;
+            case Key::Name::erase:
+                if (!behind.empty()) set_text(before + behind.substr(1));
+                break;
+            case Key::Name::left:
+                if (caret > 0) --caret;
+                break;
+            case Key::Name::right:
+                ++caret;
+                break;
+            case Key::Name::enter:
+                if (enter_presses != nullptr && enter_presses->usable()) enter_presses->press();
+                break;
+            case Key::Name::up:
+            case Key::Name::down:
+            case Key::Name::tab:
+            case Key::Name::escape:
+                break;
+        }
+    }
+}
+
+void TickBox::set_ticked(bool ticked) {
+    if (ticked_ == ticked) return;
+    ticked_ = ticked;
+    changed();
+    run(on_click);
+}
+
+void TickBox::turn_over() {
+    set_focus();
+    set_ticked(!ticked_);
+}
+
+bool Option::store(bool on) {
+    if (on_ == on) return false;
+    on_ = on;
+    changed();
+    return true;
+}
+
+void Option::set_on(bool on) {
+    if (!store(on) || !on) return;
+    for (Field* field : screen().fields()) {
+        auto* const other = dynamic_cast<Option*>(field);
+        if (other != nullptr && other != this && other->container() == container()) {
+            other->store(false);
+        }
+    }
+    run(on_click);
+}
+
+void Option::choose() {
+    set_focus();
+    if (on_) {
+        run(on_click);
+    } else {
+        set_on(true);
+    }
+}
+
+std::string_view EntryList::entry(std::size_t index) const {
+    return index < entries_.size() ? std::string_view(entries_[index]) : std::string_view{};
+}
+
+void EntryList::set_entry(std::size_t index, std::string_view text) {
+    entries_.at(index) = text;
+    changed();
+}
+
+void EntryList::select(std::size_t index) {
+    selected_ = index;
+    entry_selected();
+    changed();
+}
+
+void EntryList::deselect() {
+    if (!selected_) return;
+    selected_.reset();
+    changed();
+}
+
+void EntryList::add(std::string_view entry) {
+    entries_.emplace_back(entry);
+    changed();
+}
+
+void EntryList::set_entries(std::vector<std::string> entries) {
+    entries_ = std::move(entries);
+    selected_.reset();
+    changed();
+}
+
+std::optional<std::size_t> EntryList::find(std::string_view text) const {
+    const auto found = std::find(entries_.begin(), entries_.end(), text);
+    if (found == entries_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - entries_.begin());
+}
+
+void EntryList::click_entry(std::size_t index) {
+    set_focus();
+    select(index);
+    run(on_click);
+}
+
+void PickList::entry_selected() {
+    if (selected()) store_text(entry(*selected()));
+}
+
+}  // namespace brooklander

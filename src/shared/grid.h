@@ -1,0 +1,122 @@
+// Grids: tables of text with a current cell, on a screen.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <string_view>
+#include <vector>
+
+#include "shared/fields.h"
+#include "shared/text_grid.h"
+
+namespace brooklander {
+
+// What a click marks.
+enum class Selection { free, by_row, by_column };
+
+// When the marked cells are shown as marked.
+enum class Highlight { never, always, with_focus };
+
+enum class Alignment { standard, left };
+
+struct GridCell {
+    int row = 0;
+    int column = 0;
+
+    bool operator==(const GridCell&) const = default;
+};
+
+// How a grid starts: without rows, unless told otherwise.
+struct GridShape {
+    int columns = 2;
+    int fixed_rows = 0;
+    int fixed_columns = 0;
+};
+
+// Rows, columns and cells are counted from 0. Widths and heights are in twips.
+class Grid : public PlacedField {
+  public:
+    static constexpr int standard_width = 960;
+    static constexpr int standard_height = 240;
+
+    Grid(Field& container, std::string_view name, GridShape shape = {}, Start start = shown)
+        : PlacedField(FieldKind::grid, container, name, {}, start),
+          cells_(shape.columns),
+          fixed_rows_(shape.fixed_rows),
+          fixed_columns_(shape.fixed_columns) {}
+
+    std::function<void()> on_click;        // the clicked cell is the current one
+    std::function<void(Key)> on_key;       // in grids that are typed into; then keys do nothing else
+
+    // Reading. A cell outside the grid reads empty; texts live until the grid changes.
+    int rows() const { return cells_.rows(); }
+    int columns() const { return cells_.columns(); }
+    std::string_view cell(int row, int column) const { return cells_.cell(row, column); }
+    void read_row(int row, RowCells& cells) const { cells_.read_row(row, cells); }
+
+    // Changing. Clearing empties the cells and keeps the rows; set_rows() alone removes rows, and
+    // with them their heights.
+    void set_rows(int rows);
+    void set_columns(int columns);
+    void set_cell(int row, int column, std::string_view text);
+    void add_row(std::string_view tabbed);
+    void clear();
+    void load(FileText text);
+
+    // Puts a row back without telling observers, for steps that change many rows; one of the
+    // others, or refreshed(), follows when they are done.
+    void write_row(int row, const RowCells& cells) { cells_.write_row(row, cells); }
+    void refreshed() { changed(); }
+
+    // The current cell. Outside the grid there is none to make current: a FatalFailure.
+    GridCell current() const { return current_; }
+    void make_current(GridCell cell);
+    std::string_view current_text() const { return cell(current_.row, current_.column); }
+    void set_current_text(std::string_view text) {
+        set_cell(current_.row, current_.column, text);
+    }
+
+    int fixed_rows() const { return fixed_rows_; }
+    int fixed_columns() const { return fixed_columns_; }
+    void set_fixed_rows(int rows);
+
+    int column_width(int column) const;
+    void set_column_width(int column, int twips);
+    void set_column_widths(std::initializer_list<int> twips);  // from column 0 on
+    int row_height(int row) const;
+    void set_row_height(int row, int twips);
+    Alignment column_alignment(int column) const;
+    void set_column_alignment(int column, Alignment alignment);
+    int top() const { return top_; }  // how far down in its panel it stands, in twips
+    void set_top(int twips);
+
+    Selection selection() const { return selection_; }
+    void set_selection(Selection selection);
+    Highlight highlight() const { return highlight_; }
+    void set_highlight(Highlight highlight);
+
+    // A user's click on a cell that is there. In a fixed row it does nothing.
+    void click_cell(GridCell cell);
+
+    // A user's key at the current cell. Without an on_key, arrows move the current cell among the
+    // rows and columns that are not fixed, and Enter or the space bar clicks it.
+    void press_key(Key key);
+
+  private:
+    void move_current(int rows_down, int columns_right);
+    void keep_current_inside();
+
+    TextGrid cells_;
+    int fixed_rows_;
+    int fixed_columns_;
+    GridCell current_;
+    std::map<int, int> widths_;
+    std::map<int, int> heights_;
+    std::map<int, Alignment> alignments_;
+    int top_ = 0;
+    Selection selection_ = Selection::free;
+    Highlight highlight_ = Highlight::always;
+};
+
+}  // namespace brooklander
