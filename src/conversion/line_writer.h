@@ -1,28 +1,56 @@
 // Writes the lines of a load file, piece by piece, in blocks that suit the file.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/files.h"
+#include "shared/text_grid.h"
 
 namespace brooklander {
+
+// Texts up to this long are copied as one block; where a function says so, as many bytes must be
+// readable from the text's start on. Cells of a grid are readable that far.
+inline constexpr std::size_t short_text = TextGrid::slack;
+
+// Copies a text that is readable as a block; `to` must have room for a block.
+inline char* copy_readable(char* to, std::string_view text) {
+    if (text.size() <= short_text) {
+        std::memcpy(to, text.data(), short_text);
+    } else {
+        std::memcpy(to, text.data(), text.size());
+    }
+    return to + text.size();
+}
 
 // Text behind which a whole block may be read, so that it can be copied in blocks.
 class BlockText {
   public:
-    static constexpr std::size_t block = FileText::slack;
+    static constexpr std::size_t block = 32;
 
     BlockText() = default;
-    explicit BlockText(std::string text) { assign(std::move(text)); }
+    explicit BlockText(std::string_view text) { assign(text); }
 
-    void assign(std::string text) {
+    void assign(std::string_view text) {
+        size_ = 0;
+        make_room(text.size());
+        std::copy(text.begin(), text.end(), bytes_.data());
         size_ = text.size();
-        bytes_ = std::move(text);
-        bytes_.resize(size_ + block);
+    }
+
+    void clear() { size_ = 0; }
+
+    // The text must be readable as a block, or empty.
+    void append_readable(std::string_view text) {
+        if (text.empty()) return;
+        make_room(text.size());
+        copy_readable(bytes_.data() + size_, text);
+        size_ += text.size();
     }
 
     const char* data() const { return bytes_.data(); }
@@ -30,16 +58,16 @@ class BlockText {
     std::string_view view() const { return {bytes_.data(), size_}; }
 
   private:
-    std::string bytes_;
+    void make_room(std::size_t more) {
+        if (bytes_.size() < size_ + more + block) bytes_.resize(2 * (size_ + more) + block);
+    }
+
+    std::vector<char> bytes_ = std::vector<char>(block);
     std::size_t size_ = 0;
 };
 
 class LineWriter {
   public:
-    // Results up to this long are copied as one block; behind every one of them so many bytes may
-    // be read.
-    static constexpr std::size_t short_result = 16;
-
     explicit LineWriter(std::unique_ptr<OutputFile> file);
     LineWriter(const LineWriter&) = delete;
     LineWriter& operator=(const LineWriter&) = delete;
@@ -47,7 +75,7 @@ class LineWriter {
     // Hands on what is held back, as far as that goes; a failure has been told before.
     ~LineWriter();
 
-    // Writes a line of four pieces. The result must have short_result readable bytes behind it.
+    // Writes a line of four pieces. The result must be readable as a block.
     void put_line(const BlockText& row, const BlockText& before, std::string_view result,
                   const BlockText& behind) {
         const std::size_t length = row.size() + before.size() + result.size() + behind.size();
@@ -58,13 +86,7 @@ class LineWriter {
         char* at = buffer_.get() + used_;
         at = copy_blocks(at, row.data(), row.size());
         at = copy_blocks(at, before.data(), before.size());
-        if (result.size() <= short_result) {
-            std::memcpy(at, result.data(), short_result);
-            at += result.size();
-        } else {
-            std::memcpy(at, result.data(), result.size());
-            at += result.size();
-        }
+        at = copy_readable(at, result);
         copy_blocks(at, behind.data(), behind.size());
         used_ += length;
         if (used_ >= OutputFile::good_block) write_full_blocks();

@@ -73,18 +73,17 @@ void ResultPass::write_results(int row, const BlockText& piece) {
         if (column >= table_.columns()) table_.make_current({row, column});
         last_cell_ = {row, column};
         const std::string_view cell = cells_[column];
-        const std::string_view value = normalised_result(cell);
-        if (value.data() != cell.data() && value != cell) {
-            cells_.set(column, value);
+        const ResultValue value = result_value(cell);
+        if (value.cell.data() != cell.data() && value.cell != cell) {
+            cells_.set(column, value.cell);
             changed_ = true;
         }
-        const std::string_view result = trim(value);
-        if (!result.empty()) {
+        if (!value.written.empty()) {
             if (row >= conversion_row_limit) {
                 throw FatalFailure("A table can be converted up to row " +
                                    std::to_string(conversion_row_limit) + " only.");
             }
-            writer_.put_line(piece, characteristic.before, result, characteristic.behind);
+            writer_.put_line(piece, characteristic.before, value.written, characteristic.behind);
         }
         ++column;
     }

@@ -11,17 +11,26 @@ namespace brooklander {
 inline constexpr std::string_view not_detected{"*Non-detect\0\0\0\0\0", 11};
 inline constexpr std::string_view present_above_limit{"*Present >QL\0\0\0\0", 12};
 
-// The text that replaces a result cell; the cell itself where nothing does. Case counts, and the
-// marks are looked for at the very ends of the cell, blanks included. A first `<` marks a result
-// below the limit, a first `>` means nothing: only a last `>` does.
-constexpr std::string_view normalised_result(std::string_view cell) {
+// What a result cell becomes in the table, and what of it is written: the same without the blanks
+// at its ends.
+struct ResultValue {
+    std::string_view cell;
+    std::string_view written;
+};
+
+// A cell that no rule changes stays the very text it was. Case counts, and the marks are looked for
+// at the very ends of the cell, blanks included. A first `<` marks a result below the limit, a first
+// `>` means nothing: only a last `>` does.
+constexpr ResultValue result_value(std::string_view cell) {
+    constexpr ResultValue is_not_detected{not_detected, not_detected};
+    constexpr ResultValue is_present{present_above_limit, present_above_limit};
     const std::string_view value = trim(cell);
-    if (value.empty()) return cell;
-    if (value == not_detected || value == "ND" || value == "nd") return not_detected;
-    if (value == present_above_limit) return present_above_limit;
-    if (cell.front() == '<' || cell.back() == '<') return not_detected;
-    if (cell.back() == '>') return present_above_limit;
-    return cell;
+    if (value.empty()) return {cell, value};
+    if (value == not_detected || value == "ND" || value == "nd") return is_not_detected;
+    if (value == present_above_limit) return is_present;
+    if (cell.front() == '<' || cell.back() == '<') return is_not_detected;
+    if (cell.back() == '>') return is_present;
+    return {cell, value};
 }
 
 }  // namespace brooklander

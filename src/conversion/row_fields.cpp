@@ -7,15 +7,31 @@
 namespace brooklander {
 namespace {
 
-constexpr char delimiter = '~';
-constexpr std::string_view no_depth = "~~";
 constexpr std::size_t short_time = 3;
+
+// The fields, each with a delimiter behind it.
+std::string delimited(std::initializer_list<std::string_view> fields) {
+    std::string text;
+    for (const std::string_view field : fields) text.append(field).push_back('~');
+    return text;
+}
 
 }  // namespace
 
 RowFields::RowFields(const Assignment& assignment, const ActivityDefaults& defaults,
                      std::string_view filler)
-    : assignment_(assignment), defaults_(defaults), filler_(std::string(trim(filler)) + "-") {}
+    : assignment_(assignment),
+      depth_end_(assignment.depth ? "~" + defaults.depth_unit + "~" : "~~"),
+      filler_(std::string(trim(filler)) + "-"),
+      delimiter_("~"),
+      up_to_station_(delimited({defaults.trip})),
+      station_to_date_("~~"),  // the visit's number between them is always empty
+      time_to_id_("~" + delimited({defaults.time_zone})),
+      comments_to_depth_("~" + delimited({defaults.category})),
+      depth_to_person_(delimited({defaults.type, defaults.medium, defaults.collection_procedure,
+                                  defaults.gear, defaults.gear_configuration,
+                                  defaults.transport})),
+      behind_person_("~" + delimited({defaults.project})) {}
 
 const BlockText& RowFields::read(RowCells& cells, int number, bool& changed) {
     FromRow row;
@@ -65,13 +81,12 @@ std::string_view RowFields::activity_id(RowCells& cells, int number, bool& chang
     return trim(cells[*assignment_.sample]);
 }
 
+// The blanks at the ends of the whole are taken off, those between the depth and its unit are not.
 std::string_view RowFields::depth(const RowCells& cells) {
-    if (!assignment_.depth) return no_depth;
-    depth_ = cells[*assignment_.depth];
-    depth_ += delimiter;
-    depth_ += defaults_.depth_unit;
-    depth_ += delimiter;
-    return trim(depth_);
+    depth_.clear();
+    if (assignment_.depth) depth_.append_readable(cells[*assignment_.depth]);
+    depth_.append_readable(depth_end_.view());
+    return trim(depth_.view());
 }
 
 int RowFields::last_column_read() const {
@@ -82,21 +97,16 @@ int RowFields::last_column_read() const {
     return assignment_.time.value_or(assignment_.date);
 }
 
+// The depth carries its own delimiters.
 const BlockText& RowFields::piece_of(const FromRow& row) {
-    std::string piece;
-    const auto put = [&piece](std::initializer_list<std::string_view> fields) {
-        for (const std::string_view field : fields) {
-            piece += field;
-            piece += delimiter;
-        }
-    };
-    constexpr std::string_view visit_number;
-    put({defaults_.trip, row.station, visit_number, row.date, row.time, defaults_.time_zone,
-         row.activity_id, row.comments, defaults_.category});
-    piece += row.depth;  // carries its own delimiters
-    put({defaults_.type, defaults_.medium, defaults_.collection_procedure, defaults_.gear,
-         defaults_.gear_configuration, defaults_.transport, row.person, defaults_.project});
-    piece_.assign(std::move(piece));
+    piece_.clear();
+    for (const std::string_view part :
+         {up_to_station_.view(), row.station, station_to_date_.view(), row.date,
+          delimiter_.view(), row.time, time_to_id_.view(), row.activity_id, delimiter_.view(),
+          row.comments, comments_to_depth_.view(), row.depth, depth_to_person_.view(), row.person,
+          behind_person_.view()}) {
+        piece_.append_readable(part);
+    }
     return piece_;
 }
 

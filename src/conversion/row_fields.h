@@ -12,7 +12,7 @@ namespace brooklander {
 
 class RowFields {
   public:
-    // `filler` is what generated activity ids begin with. What is given must outlive the object.
+    // `filler` is what generated activity ids begin with. The assignment must outlive the object.
     RowFields(const Assignment& assignment, const ActivityDefaults& defaults,
               std::string_view filler);
 
@@ -52,11 +52,21 @@ class RowFields {
     const BlockText& piece_of(const FromRow& row);
 
     const Assignment& assignment_;
-    const ActivityDefaults& defaults_;
+    BlockText depth_end_;
     std::string filler_;
+
+    // What stands in every piece between the fields that come from the row.
+    BlockText delimiter_;
+    BlockText up_to_station_;
+    BlockText station_to_date_;
+    BlockText time_to_id_;
+    BlockText comments_to_depth_;
+    BlockText depth_to_person_;
+    BlockText behind_person_;
+
     BlockText time_;
     BlockText generated_id_;
-    std::string depth_;
+    BlockText depth_;
     BlockText piece_;
 };
 

@@ -18,7 +18,7 @@ namespace brooklander {
 // may be copied in whole blocks.
 class FileText {
   public:
-    static constexpr std::size_t slack = 32;
+    static constexpr std::size_t slack = 64;
 
     FileText() = default;
 
@@ -44,7 +44,7 @@ class FileText {
 class OutputFile {
   public:
     // Writing in multiples of this, from the start of a file, is fastest.
-    static constexpr std::size_t good_block = 256 * 1024;
+    static constexpr std::size_t good_block = 1024 * 1024;
 
     OutputFile() = default;
     OutputFile(const OutputFile&) = delete;

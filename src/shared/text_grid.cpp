@@ -7,123 +7,132 @@
 #include <string>
 
 #include "platform/fatal_failure.h"
+#include "shared/delimiter_mask.h"
 
 namespace brooklander {
 namespace {
 
-// Finds tabs and carriage returns in eight bytes at once. The two differ in one bit alone, so that
-// a byte is one of them exactly when it equals a tab without that bit.
-constexpr std::uint64_t every_byte = 0x0101010101010101U;
-constexpr std::uint64_t differing_bit = '\t' ^ '\r';
-static_assert(std::has_single_bit(differing_bit));
+static_assert(FileText::slack >= mask_width);
 
-// The top bit of each byte that is a tab or a carriage return.
-std::uint64_t delimiters_in(std::uint64_t eight) {
-    const std::uint64_t folded = (eight & ~(every_byte * differing_bit)) ^ (every_byte * '\t');
-    constexpr std::uint64_t low_bits = every_byte * 0x7FU;
-    return ~(((folded & low_bits) + low_bits) | folded | low_bits);
-}
-
-std::uint64_t load_eight(const char* bytes) {
-    std::uint64_t eight = 0;
-    if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(&eight, bytes, sizeof eight);
-    } else {
-        for (unsigned i = 0; i < sizeof eight; ++i) {
-            eight |= std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
-        }
-    }
-    return eight;
-}
-
-// Cuts the line that begins at `at` into cells, as many as there is room for; returns how many
-// there are. Reads whole blocks, up to FileText::slack bytes behind the end.
-std::size_t cut_line(const char* at, const char* end, std::span<std::string_view> cells) {
+// Cuts the line that begins at `at` into cells, as many as there is room for. Reads whole blocks,
+// up to FileText::slack bytes behind the end.
+void cut_line(const char* at, const char* end, std::span<std::string_view> cells) {
     std::size_t count = 0;
     const char* cell = at;
     const auto finish_cell = [&](const char* stop) {
         cells[count++] = {cell, static_cast<std::size_t>(stop - cell)};
         cell = stop + 1;
     };
-    for (; at < end && count < cells.size(); at += sizeof(std::uint64_t)) {
-        for (std::uint64_t found = delimiters_in(load_eight(at)); found != 0;
-             found &= found - 1) {
-            const char* const stop = at + std::countr_zero(found) / 8;
-            if (stop >= end || count == cells.size()) break;
+    for (; at < end; at += mask_width) {
+        for (std::uint64_t found = delimiter_mask(at); found != 0; found &= found - 1) {
+            const char* const stop = at + std::countr_zero(found);
             finish_cell(stop);
-            if (*stop == '\r') return count;
+            if (count == cells.size() || *stop == '\r') return;
         }
     }
-    if (count < cells.size() && cell <= end) finish_cell(end);
-    return count;
+    finish_cell(end);
 }
 
-// A changed row: how many cells it has, where each of them ends, and their bytes one behind the
-// other with the grid's slack at the end.
-using Bound = std::uint32_t;
+// A changed row, as it lies in memory: the row's place in the loaded text, how many cells of it are
+// its own, of each of these the column and where its text ends, and the texts one behind the other
+// with the grid's slack at the end.
+using Number = std::uint32_t;
 
-Bound bound_at(const char* packed, std::size_t index) {
-    Bound bound = 0;
-    std::memcpy(&bound, packed + index * sizeof bound, sizeof bound);
-    return bound;
+struct OwnHead {
+    std::int64_t base;
+    Number count;
+};
+constexpr std::size_t head_size = sizeof(std::int64_t) + sizeof(Number);
+
+struct OwnCell {
+    Number column;
+    Number end;
+};
+static_assert(sizeof(OwnCell) == 2 * sizeof(Number));
+
+OwnHead head_of(const char* own) {
+    OwnHead head{};
+    std::memcpy(&head.base, own, sizeof head.base);
+    std::memcpy(&head.count, own + sizeof head.base, sizeof head.count);
+    return head;
 }
 
-std::unique_ptr<char[]> pack(std::span<const std::string_view> cells) {
-    while (!cells.empty() && cells.back().empty()) cells = cells.first(cells.size() - 1);
+// Calls back with the column and the text of each cell of a changed row.
+template <typename Visit>
+void for_each_own_cell(const char* own, const Visit& visit) {
+    const Number count = head_of(own).count;
+    const char* const list = own + head_size;
+    const char* const texts = list + count * sizeof(OwnCell);
+    Number start = 0;
+    for (Number i = 0; i < count; ++i) {
+        OwnCell cell{};
+        std::memcpy(&cell, list + i * sizeof cell, sizeof cell);
+        visit(cell.column, std::string_view(texts + start, cell.end - start));
+        start = cell.end;
+    }
+}
+
+std::unique_ptr<char[]> own_row_of(std::int64_t base, std::span<const std::string_view> cells,
+                                   std::span<const Number> own) {
     std::size_t length = 0;
-    for (const auto& cell : cells) length += cell.size();
-    if (length > std::numeric_limits<Bound>::max()) {
+    for (const Number column : own) length += cells[column].size();
+    if (length > std::numeric_limits<Number>::max()) {
         throw FatalFailure("A row of a table is too long to be changed.");
     }
-    const std::size_t head = (cells.size() + 1) * sizeof(Bound);
-    auto packed = std::make_unique_for_overwrite<char[]>(head + length + TextGrid::slack);
-    char* bounds = packed.get();
-    char* const bytes = packed.get() + head;
-    const auto put_bound = [&bounds](std::size_t value) {
-        const auto bound = static_cast<Bound>(value);
-        std::memcpy(bounds, &bound, sizeof bound);
-        bounds += sizeof bound;
-    };
-    put_bound(cells.size());
-    char* out = bytes;
-    for (const auto& cell : cells) {
-        out = std::copy(cell.begin(), cell.end(), out);
-        put_bound(static_cast<std::size_t>(out - bytes));
+    const std::size_t texts_at = head_size + own.size() * sizeof(OwnCell);
+    auto row = std::make_unique_for_overwrite<char[]>(texts_at + length + TextGrid::slack);
+    const OwnHead head{base, static_cast<Number>(own.size())};
+    std::memcpy(row.get(), &head.base, sizeof head.base);
+    std::memcpy(row.get() + sizeof head.base, &head.count, sizeof head.count);
+    char* list = row.get() + head_size;
+    char* const texts = row.get() + texts_at;
+    char* text = texts;
+    for (const Number column : own) {
+        text = std::copy(cells[column].begin(), cells[column].end(), text);
+        const OwnCell cell{column, static_cast<Number>(text - texts)};
+        std::memcpy(list, &cell, sizeof cell);
+        list += sizeof cell;
     }
-    std::fill_n(out, TextGrid::slack, '\0');
-    return packed;
-}
-
-std::string_view packed_cell(const char* packed, std::size_t index) {
-    const std::size_t count = bound_at(packed, 0);
-    if (index >= count) return {};
-    const char* const bytes = packed + (count + 1) * sizeof(Bound);
-    const std::size_t start = index == 0 ? 0 : bound_at(packed, index);
-    return {bytes + start, bound_at(packed, index + 1) - start};
+    std::fill_n(text, TextGrid::slack, '\0');
+    return row;
 }
 
 }  // namespace
 
+void RowCells::set(int column, std::string_view text) {
+    const auto index = static_cast<std::size_t>(column);
+    cells_.at(index) = text;
+    const auto own_column = static_cast<Number>(index);
+    if (std::find(own_.begin(), own_.end(), own_column) == own_.end()) own_.push_back(own_column);
+}
+
 void TextGrid::set_rows(int rows) {
     const auto count = static_cast<std::size_t>(std::max(rows, 0));
     for (std::size_t row = count; row < rows_.size(); ++row) {
-        if (rows_[row] < 0 && rows_[row] != nowhere) {
-            own_[static_cast<std::size_t>(~rows_[row])].reset();
-        }
+        if (is_own(rows_[row])) own_[static_cast<std::size_t>(~rows_[row])].reset();
     }
     rows_.resize(count, nowhere);
     if (count == 0) clear();
 }
 
+TextGrid::Place TextGrid::base_of(Place place) const {
+    return is_own(place) ? head_of(own_row(place)).base : place;
+}
+
 std::string_view TextGrid::cell(int row, int column) const {
     if (!has(row, column)) return {};
     const Place place = rows_[static_cast<std::size_t>(row)];
-    if (place == nowhere) return {};
     const auto index = static_cast<std::size_t>(column);
-    if (place < 0) return packed_cell(own_row(place), index);
     std::vector<std::string_view> cells(index + 1);
-    const std::string_view text = base_.view();
-    cut_line(text.data() + place, text.data() + text.size(), cells);
+    if (const Place base = base_of(place); base != nowhere) {
+        const std::string_view text = base_.view();
+        cut_line(text.data() + base, text.data() + text.size(), cells);
+    }
+    if (is_own(place)) {
+        for_each_own_cell(own_row(place), [&](Number own_column, std::string_view text) {
+            if (own_column == index) cells.back() = text;
+        });
+    }
     return cells.back();
 }
 
@@ -140,6 +149,7 @@ void TextGrid::add_row(std::string_view tabbed) {
     RowCells cells;
     while (cells.cells_.size() < static_cast<std::size_t>(columns_)) {
         const std::string_view piece = tabbed.substr(0, tabbed.find('\t'));
+        if (!piece.empty()) cells.own_.push_back(static_cast<Number>(cells.cells_.size()));
         cells.cells_.push_back(piece);
         if (piece.size() == tabbed.size()) break;
         tabbed.remove_prefix(piece.size() + 1);
@@ -172,27 +182,28 @@ void TextGrid::load(FileText text) {
 
 void TextGrid::read_row(int row, RowCells& cells) const {
     cells.cells_.assign(static_cast<std::size_t>(columns_), {});
+    cells.own_.clear();
     const Place place = rows_.at(static_cast<std::size_t>(row));
-    if (place == nowhere) return;
-    if (place < 0) {
-        const char* const packed = own_row(place);
-        for (std::size_t i = 0; i < cells.cells_.size(); ++i) {
-            cells.cells_[i] = packed_cell(packed, i);
-        }
-        return;
+    if (const Place base = base_of(place); base != nowhere) {
+        const std::string_view text = base_.view();
+        cut_line(text.data() + base, text.data() + text.size(), cells.cells_);
     }
-    const std::string_view text = base_.view();
-    cut_line(text.data() + place, text.data() + text.size(), cells.cells_);
+    if (!is_own(place)) return;
+    for_each_own_cell(own_row(place), [&](Number column, std::string_view text) {
+        if (column >= cells.cells_.size()) return;
+        cells.cells_[column] = text;
+        cells.own_.push_back(column);
+    });
 }
 
 void TextGrid::write_row(int row, const RowCells& cells) {
-    auto packed = pack(cells.cells_);
     Place& place = rows_.at(static_cast<std::size_t>(row));
-    if (place >= 0 || place == nowhere) {
-        place = place_of_own(own_.size());
-        own_.push_back(std::move(packed));
+    auto own = own_row_of(base_of(place), cells.cells_, cells.own_);
+    if (is_own(place)) {
+        own_[static_cast<std::size_t>(~place)] = std::move(own);
     } else {
-        own_[static_cast<std::size_t>(~place)] = std::move(packed);
+        place = ~static_cast<Place>(own_.size());
+        own_.push_back(std::move(own));
     }
 }
 

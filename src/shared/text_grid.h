@@ -1,7 +1,7 @@
 // The cells of a grid: rows of text, up to millions of them.
 //
 // A file that is loaded is kept as it came, once; a row is a place in it, and is cut into cells
-// when it is asked for. Only rows that have been changed since hold cells of their own.
+// when it is asked for. Only cells that have been changed since hold a text of their own.
 #pragma once
 
 #include <cstdint>
@@ -25,14 +25,13 @@ class RowCells {
     }
 
     // Puts another text into a column that the row has. The text must outlive the use of the row.
-    void set(int column, std::string_view text) {
-        cells_.at(static_cast<std::size_t>(column)) = text;
-    }
+    void set(int column, std::string_view text);
 
   private:
     friend class TextGrid;
 
     std::vector<std::string_view> cells_;
+    std::vector<std::uint32_t> own_;  // the columns whose text is not that of the loaded file
 };
 
 class TextGrid {
@@ -48,7 +47,8 @@ class TextGrid {
     // Rows that are added are empty; rows beyond the new count are gone for good.
     void set_rows(int rows);
 
-    // Columns beyond the new count are not seen while they are; their text stays.
+    // For grids without rows. What cells of columns beyond the new count hold when such columns
+    // come back is open.
     void set_columns(int columns) { columns_ = columns; }
 
     // The text of a cell, both counted from 0; empty outside the grid. It lives until the grid
@@ -76,12 +76,13 @@ class TextGrid {
     void write_row(int row, const RowCells& cells);
 
   private:
-    // Where a row's text is: a place in base_, or a changed row, or nowhere.
+    // Where a row is: a place in base_ from 0 on, or the complement of a place in own_, or nowhere.
     using Place = std::int64_t;
     static constexpr Place nowhere = INT64_MIN;
-    static Place place_of_own(std::size_t index) { return ~static_cast<Place>(index); }
 
+    static bool is_own(Place place) { return place < 0 && place != nowhere; }
     const char* own_row(Place place) const { return own_[static_cast<std::size_t>(~place)].get(); }
+    Place base_of(Place place) const;
     bool has(int row, int column) const {
         return row >= 0 && row < rows() && column >= 0 && column < columns_;
     }
@@ -89,7 +90,7 @@ class TextGrid {
     int columns_;
     std::vector<Place> rows_;
     FileText base_;
-    std::vector<std::unique_ptr<char[]>> own_;  // changed rows: see pack() in the source
+    std::vector<std::unique_ptr<char[]>> own_;  // changed rows: see OwnRow in the source
 };
 
 }  // namespace brooklander

@@ -1,0 +1,37 @@
+// The road of one file through the program, step by step, for measuring it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "platform/database/open_database.h"
+#include "platform/files/host_files.h"
+#include "platform/help.h"
+#include "program.h"
+
+namespace brooklander::bench {
+
+class Road {
+  public:
+    // `home` stands for drive `c:`; the table is `c:\data\table.txt`.
+    explicit Road(const std::filesystem::path& home);
+
+    void up_to_view();
+    void view() { screens().frmStart.cmdView.press(); }
+    void up_to_convert();
+    void convert() { screens().frmImportFileDisplay.cmdFormatConfirm.press(); }
+
+    Screens& screens() { return program_.screens(); }
+
+  private:
+    class NoHelp : public Help {
+        void show(std::string_view /*path*/) override {}
+    };
+
+    HostFiles files_;
+    OpenDatabase database_;
+    NoHelp help_;
+    Program program_{{files_, database_, help_}};
+};
+
+}  // namespace brooklander::bench
