@@ -1,0 +1,136 @@
+#include "shared/grid.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/fatal_failure.h"
+#include "support/test_screen.h"
+
+namespace brooklander {
+namespace {
+
+class GridRules : public testing::Test {
+  protected:
+    GridRules() {
+        grid_.add_row("a\tb\tc");
+        grid_.add_row("d\te\tf");
+    }
+
+    test::TestScreen test_;
+    Grid& grid_ = test_.screen.MSFlexTest;
+    int runs_ = 0;
+};
+
+TEST_F(GridRules, AClickMakesTheCellCurrentAndRunsTheHandler) {
+    grid_.on_click = [this] {
+        ++runs_;
+        EXPECT_EQ(grid_.current_text(), "f");
+    };
+    grid_.click_cell({1, 2});
+    EXPECT_EQ(grid_.current(), (GridCell{1, 2}));
+    EXPECT_EQ(runs_, 1);
+    EXPECT_TRUE(grid_.focused());
+}
+
+TEST_F(GridRules, AClickInAFixedRowDoesNothing) {
+    grid_.set_fixed_rows(1);
+    grid_.make_current({1, 1});
+    grid_.on_click = [this] { ++runs_; };
+    grid_.click_cell({0, 2});
+    EXPECT_EQ(grid_.current(), (GridCell{1, 1}));
+    EXPECT_EQ(runs_, 0);
+}
+
+TEST_F(GridRules, ACellOutsideReadsEmptyAndCannotBecomeCurrent) {
+    EXPECT_EQ(grid_.cell(5, 0), "");
+    EXPECT_THROW(grid_.make_current({2, 0}), FatalFailure);
+    EXPECT_THROW(grid_.make_current({0, 3}), FatalFailure);
+    EXPECT_EQ(grid_.current(), (GridCell{0, 0}));
+}
+
+TEST_F(GridRules, ClearingKeepsRowsColumnsAndTheCurrentCell) {
+    grid_.make_current({1, 1});
+    grid_.clear();
+    EXPECT_EQ(grid_.rows(), 2);
+    EXPECT_EQ(grid_.columns(), 3);
+    EXPECT_EQ(grid_.current(), (GridCell{1, 1}));
+    EXPECT_EQ(grid_.current_text(), "");
+}
+
+TEST_F(GridRules, AHeightGoesWithItsRow) {
+    grid_.set_row_height(0, 1);
+    EXPECT_EQ(grid_.row_height(0), 1);
+    EXPECT_EQ(grid_.row_height(1), Grid::standard_height);
+    grid_.set_rows(0);
+    grid_.set_rows(2);
+    EXPECT_EQ(grid_.row_height(0), Grid::standard_height);
+    grid_.set_row_height(7, 1);
+    grid_.set_rows(9);
+    EXPECT_EQ(grid_.row_height(7), Grid::standard_height);
+}
+
+TEST_F(GridRules, AWidthStaysWithItsColumn) {
+    grid_.set_column_widths({1800, 500});
+    grid_.set_rows(0);
+    EXPECT_EQ(grid_.column_width(0), 1800);
+    EXPECT_EQ(grid_.column_width(1), 500);
+    EXPECT_EQ(grid_.column_width(2), Grid::standard_width);
+}
+
+TEST_F(GridRules, TheCurrentCellStaysInsideAGridThatShrinks) {
+    grid_.make_current({1, 2});
+    grid_.set_rows(1);
+    EXPECT_EQ(grid_.current(), (GridCell{0, 2}));
+    grid_.set_columns(2);
+    EXPECT_EQ(grid_.current(), (GridCell{0, 1}));
+    grid_.set_rows(0);
+    EXPECT_EQ(grid_.current(), (GridCell{0, 1}));
+}
+
+TEST_F(GridRules, ArrowsMoveAmongTheCellsThatAreNotFixedAndRunNothing) {
+    grid_.set_fixed_rows(1);
+    grid_.make_current({1, 1});
+    grid_.on_click = [this] { ++runs_; };
+    grid_.press_key({Key::Name::up});
+    EXPECT_EQ(grid_.current(), (GridCell{1, 1}));
+    grid_.press_key({Key::Name::left});
+    grid_.press_key({Key::Name::left});
+    EXPECT_EQ(grid_.current(), (GridCell{1, 0}));
+    grid_.press_key({Key::Name::down});
+    EXPECT_EQ(grid_.current(), (GridCell{1, 0}));
+    grid_.press_key({Key::Name::right});
+    EXPECT_EQ(grid_.current(), (GridCell{1, 1}));
+    EXPECT_EQ(runs_, 0);
+}
+
+TEST_F(GridRules, EnterAndTheSpaceBarClickTheCurrentCell) {
+    grid_.on_click = [this] { ++runs_; };
+    grid_.press_key({Key::Name::enter});
+    grid_.press_key(Key::of(' '));
+    grid_.press_key(Key::of('x'));
+    grid_.press_key({Key::Name::erase});
+    EXPECT_EQ(runs_, 2);
+    EXPECT_EQ(grid_.cell(0, 0), "a");
+    grid_.set_rows(0);
+    grid_.press_key({Key::Name::enter});
+    EXPECT_EQ(runs_, 2);
+}
+
+TEST_F(GridRules, AGridThatIsTypedIntoGetsAllKeysItself) {
+    std::string typed;
+    grid_.on_key = [&](Key key) { typed += key.name == Key::Name::up ? '^' : key.character; };
+    grid_.press_key(Key::of('x'));
+    grid_.press_key({Key::Name::up});
+    EXPECT_EQ(typed, "x^");
+    EXPECT_EQ(grid_.current(), (GridCell{0, 0}));
+}
+
+TEST_F(GridRules, AnEmptyGridTakesKeysWithoutHarm) {
+    grid_.set_rows(0);
+    for (const auto name : {Key::Name::up, Key::Name::down, Key::Name::left, Key::Name::right}) {
+        grid_.press_key({name});
+    }
+    EXPECT_EQ(grid_.current(), (GridCell{0, 0}));
+}
+
+}  // namespace
+}  // namespace brooklander
