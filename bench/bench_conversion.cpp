@@ -131,7 +131,8 @@ void measure_time(const Workplace& place, int rows) {
     for (int i = 0; i < rounds; ++i) all.push_back(measure_once(place));
     const double load = median(all, [](const Round& r) { return r.load.wall; });
     const double convert = median(all, [](const Round& r) { return r.convert.wall; });
-    const double together = median(all, [](const Round& r) { return r.load.wall + r.convert.wall; });
+    const double together =
+        median(all, [](const Round& r) { return r.load.wall + r.convert.wall; });
     const double cpu = median(all, [](const Round& r) { return r.load.cpu + r.convert.cpu; });
     const double copy = median(all, [](const Round& r) { return r.copy.wall; });
     const double copy_cpu = median(all, [](const Round& r) { return r.copy.cpu; });

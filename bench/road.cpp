@@ -23,21 +23,21 @@ void Road::up_to_view() {
 }
 
 void Road::up_to_convert() {
-    FrmImportFileDisplay& import = screens().frmImportFileDisplay;
-    import.cmdYes.press();
+    FrmImportFileDisplay& display = screens().frmImportFileDisplay;
+    display.cmdYes.press();
     screens().frmPreferences.optVox.choose();
-    import.cmdSave.press();
-    import.txtActivityID.type("LAKE");
-    import.cmdActivityContinue.press();
+    display.cmdSave.press();
+    display.txtActivityID.type("LAKE");
+    display.cmdActivityContinue.press();
     int column = 0;
     for (const Category& category : categories) {
         const bool results = category.button == &FrmImportFileDisplay::cmdResults;
-        (import.*category.button).press();
-        import.MSFlexKeldarIN.click_cell({0, results ? leading_columns : column++});
+        (display.*category.button).press();
+        display.MSFlexKeldarIN.click_cell({0, results ? leading_columns : column++});
     }
-    import.cmdContinue.press();
-    import.MSFlexKeldarIN.click_cell({1, 0});
-    import.cmdRowContinue.press();
+    display.cmdContinue.press();
+    display.MSFlexKeldarIN.click_cell({1, 0});
+    display.cmdRowContinue.press();
 }
 
 }  // namespace brooklander::bench

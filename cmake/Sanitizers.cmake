@@ -3,3 +3,7 @@ if(BROOKLANDER_SANITIZE)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+if(BROOKLANDER_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

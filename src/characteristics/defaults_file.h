@@ -15,9 +15,9 @@ namespace brooklander {
 // One field of a line, in the order of the line.
 struct DefaultsField {
     std::string_view heading;
-    std::size_t stop;     // the position at which the writer begins it
-    Cut for_display;      // what the screens that show and edit it keep
-    Cut for_conversion;   // what reaches the load file
+    std::size_t stop;    // the position at which the writer begins it
+    Cut for_display;     // what the screens that show and edit it keep
+    Cut for_conversion;  // what reaches the load file
 };
 
 // Most cuts end one byte before the next stop, where a value of full width would touch its

@@ -1,12 +1,17 @@
 // The choice of a sample file whose characteristics a new configuration takes up.
 #pragma once
 
-#include "shared/screen.h"
+#include "shared/place_lists.h"
 
 namespace brooklander {
 
 struct FrmCharSource : Screen {
-    explicit FrmCharSource(Desk& desk) : Screen(desk, "frmCharSource", "Select Characteristics Source") {}
+    explicit FrmCharSource(Desk& desk)
+        : Screen(desk, "frmCharSource", "Select Characteristics Source") {}
+
+    Panel frameFiles{*this, "frameFiles", "Select File To Import And Convert", hidden};
+    Label lblSelectedFile{frameFiles, "lblSelectedFile"};
+    Button cmdView{frameFiles, "cmdView", "View File =>", disabled};
 };
 
 }  // namespace brooklander

@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmSubjectTaxon : Screen {
-    explicit FrmSubjectTaxon(Desk& desk) : Screen(desk, "frmSubjectTaxon", "Subject Taxon Translation") {}
+    explicit FrmSubjectTaxon(Desk& desk)
+        : Screen(desk, "frmSubjectTaxon", "Subject Taxon Translation") {}
 };
 
 }  // namespace brooklander

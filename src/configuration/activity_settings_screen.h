@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmPreferencesSettings : Screen {
-    explicit FrmPreferencesSettings(Desk& desk) : Screen(desk, "frmPreferencesSettings", "Configuration File Settings") {}
+    explicit FrmPreferencesSettings(Desk& desk)
+        : Screen(desk, "frmPreferencesSettings", "Configuration File Settings") {}
 };
 
 }  // namespace brooklander

@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmPreferencesCharacteristics : Screen {
-    explicit FrmPreferencesCharacteristics(Desk& desk) : Screen(desk, "frmPreferencesCharacteristics", "Characteristics Holder") {}
+    explicit FrmPreferencesCharacteristics(Desk& desk)
+        : Screen(desk, "frmPreferencesCharacteristics", "Characteristics Holder") {}
 };
 
 }  // namespace brooklander

@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmConfigurationDisplay : Screen {
-    explicit FrmConfigurationDisplay(Desk& desk) : Screen(desk, "frmConfigurationDisplay", "Configuration File Display") {}
+    explicit FrmConfigurationDisplay(Desk& desk)
+        : Screen(desk, "frmConfigurationDisplay", "Configuration File Display") {}
 };
 
 }  // namespace brooklander

@@ -20,16 +20,16 @@ void optVox_Click(Screens& screens) {
         "for step by step procedures.");
     preferences.hide();
 
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.frameFileBeingConverted.show();
-    import.frameVOX.show();
-    import.frameConfiguration.hide();
-    import.frameOutputFile.hide();
-    import.frameImportedFile.hide();
-    import.show();
-    import.mnuExit.enable();
-    import.cmdSave.enable();
-    import.cmdSave.set_focus();
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.frameFileBeingConverted.show();
+    display.frameVOX.show();
+    display.frameConfiguration.hide();
+    display.frameOutputFile.hide();
+    display.frameImportedFile.hide();
+    display.show();
+    display.mnuExit.enable();
+    display.cmdSave.enable();
+    display.cmdSave.set_focus();
 }
 
 }  // namespace brooklander

@@ -6,7 +6,9 @@
 namespace brooklander {
 
 struct FrmPreferencesSamples : Screen {
-    explicit FrmPreferencesSamples(Desk& desk) : Screen(desk, "frmPreferencesSamples", "Setting Configuration File Sample Collection Procedures") {}
+    explicit FrmPreferencesSamples(Desk& desk)
+        : Screen(desk, "frmPreferencesSamples",
+                 "Setting Configuration File Sample Collection Procedures") {}
 };
 
 }  // namespace brooklander

@@ -18,8 +18,7 @@ CharacteristicPieces pieces_of(std::string_view name, std::string_view line) {
     }
     before += '~';
     std::string behind;
-    for (auto field = defaults_field::lab; field <= defaults_field::detection_limit_unit;
-         ++field) {
+    for (auto field = defaults_field::lab; field <= defaults_field::detection_limit_unit; ++field) {
         behind += '~';
         behind += conversion_value(line, field);
     }
@@ -29,18 +28,18 @@ CharacteristicPieces pieces_of(std::string_view name, std::string_view line) {
 
 }  // namespace
 
-void take_characteristics_from_headings(FrmImportFileDisplay& import, int first_column) {
-    Grid& table = import.MSFlexKeldarIN;
+void take_characteristics_from_headings(FrmImportFileDisplay& display, int first_column) {
+    Grid& table = display.MSFlexKeldarIN;
     std::vector<std::string> names;
     for (int column = first_column; column < table.columns(); ++column) {
         table.make_current({0, column});
         names.emplace_back(trim(table.current_text()));
     }
-    import.lstRows.set_entries(std::move(names));
-    import.lstChar.clear();
+    display.lstRows.set_entries(std::move(names));
+    display.lstChar.clear();
 }
 
-void take_characteristics_from_file(FrmImportFileDisplay& import, const Files& files,
+void take_characteristics_from_file(FrmImportFileDisplay& display, const Files& files,
                                     std::string_view path) {
     std::vector<std::string> names;
     std::vector<std::string> lines;
@@ -55,15 +54,15 @@ void take_characteristics_from_file(FrmImportFileDisplay& import, const Files& f
         names.clear();
         lines.clear();
     }
-    import.lstRows.set_entries(std::move(names));
-    import.lstChar.set_entries(std::move(lines));
+    display.lstRows.set_entries(std::move(names));
+    display.lstChar.set_entries(std::move(lines));
 }
 
-std::vector<CharacteristicPieces> characteristic_pieces(const FrmImportFileDisplay& import) {
+std::vector<CharacteristicPieces> characteristic_pieces(const FrmImportFileDisplay& display) {
     std::vector<CharacteristicPieces> pieces;
-    pieces.reserve(import.lstRows.count());
-    for (std::size_t i = 0; i < import.lstRows.count(); ++i) {
-        pieces.push_back(pieces_of(import.lstRows.entry(i), import.lstChar.entry(i)));
+    pieces.reserve(display.lstRows.count());
+    for (std::size_t i = 0; i < display.lstRows.count(); ++i) {
+        pieces.push_back(pieces_of(display.lstRows.entry(i), display.lstChar.entry(i)));
     }
     return pieces;
 }

@@ -19,14 +19,14 @@ struct CharacteristicPieces {
 
 // Fills lstRows with the headings of the table from a column on; lstChar is left empty, and with
 // it all details. The cell read last becomes the table's current one.
-void take_characteristics_from_headings(FrmImportFileDisplay& import, int first_column);
+void take_characteristics_from_headings(FrmImportFileDisplay& display, int first_column);
 
 // Fills lstRows with the names and lstChar with the whole lines of a characteristic defaults file.
 // A file that cannot be read leaves both empty and is no failure.
-void take_characteristics_from_file(FrmImportFileDisplay& import, const Files& files,
+void take_characteristics_from_file(FrmImportFileDisplay& display, const Files& files,
                                     std::string_view path);
 
 // The pieces of each entry of lstRows.
-std::vector<CharacteristicPieces> characteristic_pieces(const FrmImportFileDisplay& import);
+std::vector<CharacteristicPieces> characteristic_pieces(const FrmImportFileDisplay& display);
 
 }  // namespace brooklander

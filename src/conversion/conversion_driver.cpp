@@ -11,15 +11,15 @@
 namespace brooklander {
 namespace {
 
-void prepare(FrmImportFileDisplay& import) {
-    import.frameCategoryResults.hide();
-    import.frameRowSelection.hide();
-    import.frameSameSelections.hide();
-    import.MSFlexResults.clear();
-    import.lstDetectionLimit.clear();
-    import.lstValidate.clear();
-    import.lstRowId.clear();
-    import.set_pointer(Pointer::busy);
+void prepare(FrmImportFileDisplay& display) {
+    display.frameCategoryResults.hide();
+    display.frameRowSelection.hide();
+    display.frameSameSelections.hide();
+    display.MSFlexResults.clear();
+    display.lstDetectionLimit.clear();
+    display.lstValidate.clear();
+    display.lstRowId.clear();
+    display.set_pointer(Pointer::busy);
 }
 
 // What reading the rows' fields does once for all rows: it fails where it cannot be done, before
@@ -57,52 +57,51 @@ void read_first_row(Grid& table, const Assignment& assignment, RowFields& fields
 }
 
 // The look at the result in work, as the last one leaves it.
-void show_last_result(FrmImportFileDisplay& import, const ResultPass& pass) {
+void show_last_result(FrmImportFileDisplay& display, const ResultPass& pass) {
     const GridCell cell = pass.last_cell();
     if (cell.row == 0) return;
-    import.MSFlexKeldarIN.make_current(cell);
-    import.MSFlexResults.set_rows(0);
-    import.MSFlexResults.add_row(upper(import.lstRows.entry(pass.last_characteristic())) + '\t' +
-                                 std::string(trim(import.MSFlexKeldarIN.current_text())));
+    display.MSFlexKeldarIN.make_current(cell);
+    display.MSFlexResults.set_rows(0);
+    display.MSFlexResults.add_row(upper(display.lstRows.entry(pass.last_characteristic())) + '\t' +
+                                  std::string(trim(display.MSFlexKeldarIN.current_text())));
 }
 
-void finish(FrmImportFileDisplay& import) {
-    import.set_pointer(Pointer::normal);
-    import.lblConvertedFile.set_text(import.txtSave.text());
-    import.fileConvertedFiles.refresh();
-    import.frameConverted.show();
-    import.lblConverted.set_text(
+void finish(FrmImportFileDisplay& display) {
+    display.set_pointer(Pointer::normal);
+    display.lblConvertedFile.set_text(display.txtSave.text());
+    display.fileConvertedFiles.refresh();
+    display.frameConverted.show();
+    display.lblConverted.set_text(
         "Has been created and is ready to be loaded in KELDAR through VOX. ** Note that this is a "
         "tilde ~ delimited file. **");
-    import.frameOutputFile.hide();
+    display.frameOutputFile.hide();
 }
 
 }  // namespace
 
 void cmdFormatConfirm_Click(Screens& screens, Files& files) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    Grid& table = import.MSFlexKeldarIN;
-    prepare(import);
-    LineWriter writer(files.append(import.txtSave.text()));
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    Grid& table = display.MSFlexKeldarIN;
+    prepare(display);
+    LineWriter writer(files.append(display.txtSave.text()));
 
-    const Assignment assignment = assignment_of(import);
+    const Assignment assignment = assignment_of(display);
     const ActivityDefaults defaults = activity_defaults_of(screens);
-    RowFields fields(assignment, defaults, import.txtActivityID.text());
+    RowFields fields(assignment, defaults, display.txtActivityID.text());
     check_data_rows(table, assignment, fields);
     read_first_row(table, assignment, fields);
 
     const bool under_configuration = !screens.frmPreferences.optVox.on();
     if (under_configuration) {
-        take_characteristics_from_file(import, files,
+        take_characteristics_from_file(display, files,
                                        std::string(workspace::characteristics) +
                                            screens.frmPreferences.lblSelectedFile.text());
     } else {
-        take_characteristics_from_headings(import, assignment.first_result);
+        take_characteristics_from_headings(display, assignment.first_result);
     }
-    const std::vector<CharacteristicPieces> characteristics = characteristic_pieces(import);
-    const auto last_column =
-        assignment.first_result + static_cast<int>(characteristics.size()) - 1;
-    import.lblRows.set_text(std::to_string(last_column));
+    const std::vector<CharacteristicPieces> characteristics = characteristic_pieces(display);
+    const auto last_column = assignment.first_result + static_cast<int>(characteristics.size()) - 1;
+    display.lblRows.set_text(std::to_string(last_column));
 
     ResultPass pass(table, assignment, fields, characteristics, writer, under_configuration);
     try {
@@ -112,9 +111,9 @@ void cmdFormatConfirm_Click(Screens& screens, Files& files) {
         pass.run();
     }
     writer.finish();
-    show_last_result(import, pass);
+    show_last_result(display, pass);
     table.refreshed();
-    finish(import);
+    finish(display);
 }
 
 }  // namespace brooklander

@@ -15,8 +15,8 @@ constexpr int first_row_visited = 1;
 }  // namespace
 
 ResultPass::ResultPass(Grid& table, const Assignment& assignment, RowFields& fields,
-                       const std::vector<CharacteristicPieces>& characteristics,
-                       LineWriter& writer, bool may_restart)
+                       const std::vector<CharacteristicPieces>& characteristics, LineWriter& writer,
+                       bool may_restart)
     : table_(table),
       assignment_(assignment),
       fields_(fields),
@@ -44,7 +44,6 @@ bool ResultPass::rewrites_what_rows_read() const {
 
 void ResultPass::run() {
     last_cell_ = {};
-    if (characteristics_.empty()) return;
     for (int row = first_row_visited; row < table_.rows(); ++row) visit(row);
 }
 

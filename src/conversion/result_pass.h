@@ -20,13 +20,14 @@ class ResultPass {
                const std::vector<CharacteristicPieces>& characteristics, LineWriter& writer,
                bool may_restart);
 
-    // Visits every row from row 1 on, also those above the first data row. A FatalFailure when a
+    // Visits every row from row 1 on, also those above the first data row, and also where there is
+    // no characteristic: reading a row can change its cells. A FatalFailure when a
     // column of results lies outside the table, when a row with a result lies beyond the limit of
     // rows, and when the file cannot be written; what was done till then stays.
     void run();
 
     // Where the pass was last: the result cell, and the index of its characteristic. A row of 0
-    // tells that no cell was visited.
+    // tells that no result cell was visited.
     GridCell last_cell() const { return last_cell_; }
     std::size_t last_characteristic() const;
 

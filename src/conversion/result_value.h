@@ -19,7 +19,8 @@ struct ResultValue {
 };
 
 // A cell that no rule changes stays the very text it was. Case counts, and the marks are looked for
-// at the very ends of the cell, blanks included. A first `<` marks a result below the limit, a first
+// at the very ends of the cell, blanks included. A first `<` marks a result below the limit, a
+// first
 // `>` means nothing: only a last `>` does.
 constexpr ResultValue result_value(std::string_view cell) {
     constexpr ResultValue is_not_detected{not_detected, not_detected};

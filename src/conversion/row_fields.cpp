@@ -29,8 +29,7 @@ RowFields::RowFields(const Assignment& assignment, const ActivityDefaults& defau
       time_to_id_("~" + delimited({defaults.time_zone})),
       comments_to_depth_("~" + delimited({defaults.category})),
       depth_to_person_(delimited({defaults.type, defaults.medium, defaults.collection_procedure,
-                                  defaults.gear, defaults.gear_configuration,
-                                  defaults.transport})),
+                                  defaults.gear, defaults.gear_configuration, defaults.transport})),
       behind_person_("~" + delimited({defaults.project})) {}
 
 const BlockText& RowFields::read(RowCells& cells, int number, bool& changed) {
@@ -101,9 +100,9 @@ int RowFields::last_column_read() const {
 const BlockText& RowFields::piece_of(const FromRow& row) {
     piece_.clear();
     for (const std::string_view part :
-         {up_to_station_.view(), row.station, station_to_date_.view(), row.date,
-          delimiter_.view(), row.time, time_to_id_.view(), row.activity_id, delimiter_.view(),
-          row.comments, comments_to_depth_.view(), row.depth, depth_to_person_.view(), row.person,
+         {up_to_station_.view(), row.station, station_to_date_.view(), row.date, delimiter_.view(),
+          row.time, time_to_id_.view(), row.activity_id, delimiter_.view(), row.comments,
+          comments_to_depth_.view(), row.depth, depth_to_person_.view(), row.person,
           behind_person_.view()}) {
         piece_.append_readable(part);
     }

@@ -25,7 +25,8 @@ class RowFields {
     const BlockText& read(RowCells& cells, int number, bool& changed);
 
     // The piece for rows above the first data row: all that comes from a row is empty, and so is
-    // what otherwise stands for a depth that is not given, so that their lines are two tildes short.
+    // what otherwise stands for a depth that is not given, so that their lines are two tildes
+    // short.
     const BlockText& none();
 
     // The columns in which read() makes changes, -1 where it makes none.

@@ -14,16 +14,16 @@ std::string trimmed(const Label& label) { return std::string(trim(label.text()))
 
 }  // namespace
 
-Assignment assignment_of(const FrmImportFileDisplay& import) {
-    return {.station = position_in(import.lblStation.text()),
-            .date = position_in(import.lblDate.text()),
-            .time = assigned(import.lblTime),
-            .sample = assigned(import.lblSample),
-            .depth = assigned(import.lblDepth),
-            .comments = assigned(import.lblComments),
-            .person = assigned(import.lblPerson),
-            .first_result = position_in(import.lblColumn.text()),
-            .first_row = position_in(import.lblRow.text())};
+Assignment assignment_of(const FrmImportFileDisplay& display) {
+    return {.station = position_in(display.lblStation.text()),
+            .date = position_in(display.lblDate.text()),
+            .time = assigned(display.lblTime),
+            .sample = assigned(display.lblSample),
+            .depth = assigned(display.lblDepth),
+            .comments = assigned(display.lblComments),
+            .person = assigned(display.lblPerson),
+            .first_result = position_in(display.lblColumn.text()),
+            .first_row = position_in(display.lblRow.text())};
 }
 
 ActivityDefaults activity_defaults_of(const Screens& screens) {

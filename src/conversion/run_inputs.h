@@ -23,7 +23,7 @@ struct Assignment {
     int first_row;
 };
 
-Assignment assignment_of(const FrmImportFileDisplay& import);
+Assignment assignment_of(const FrmImportFileDisplay& display);
 
 // The configuration's values, each trimmed but for the trip. Under a configuration of the import
 // module all but the trip and the depth's unit are empty, since the module adds them itself.

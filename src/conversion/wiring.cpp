@@ -5,8 +5,8 @@
 namespace brooklander {
 
 void wire_conversion(Screens& screens, Platform& platform) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.cmdFormatConfirm.on_click = [&] { cmdFormatConfirm_Click(screens, platform.files); };
-}
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.cmdFormatConfirm.on_click = [&] { cmdFormatConfirm_Click(screens, platform.files); };
+}  // namespace brooklander
 
 }  // namespace brooklander

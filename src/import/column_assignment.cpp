@@ -1,5 +1,6 @@
 #include "import/column_assignment.h"
 
+#include <algorithm>
 #include <string>
 
 #include "shared/text.h"
@@ -9,26 +10,34 @@ namespace {
 
 constexpr std::string_view row_category = "First Row Of Data Results";
 
-void hide_markers(FrmImportFileDisplay& import) {
-    for (const Category& category : categories) (import.*category.marker).hide();
+void hide_markers(FrmImportFileDisplay& display) {
+    for (const Category& category : categories) (display.*category.marker).hide();
+}
+
+bool is_results(const Category& category) {
+    return category.button == &FrmImportFileDisplay::cmdResults;
+}
+
+const Category& results_category() {
+    return *std::find_if(categories.begin(), categories.end(), is_results);
 }
 
 // The later rule wins.
 void mark_results(Screens& screens) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     if (!screens.frmPreferencesSampleOption.chkChar.ticked()) {
-        import.lblResultsSelected.show();
+        display.lblResultsSelected.show();
     } else {
-        import.lblResultsSelected.hide();
-        import.cmdContinue.enable();
+        display.lblResultsSelected.hide();
+        display.cmdContinue.enable();
     }
     if (screens.frmStart.chkPreferences.ticked()) {
-        import.lblResultsSelected.show();
-        import.cmdContinue.enable();
+        display.lblResultsSelected.show();
+        display.cmdContinue.enable();
     }
     if (screens.frmPreferences.optVox.on()) {
-        import.lblResultsSelected.hide();
-        import.cmdContinue.enable();
+        display.lblResultsSelected.hide();
+        display.cmdContinue.enable();
     }
 }
 
@@ -41,7 +50,7 @@ bool is_ph(std::string_view name) { return name == "pH" || name == "ph" || name 
 
 // Hands the headings from the first results column on to the translation screen.
 void hand_on_characteristics(Screens& screens, bool with_details) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     FrmCharacteristics& translation = screens.frmCharacteristics;
     Grid& details = screens.frmCharacteristicDetails.MSFlexDetails;
     translation.lstCharacteristics.clear();
@@ -49,15 +58,15 @@ void hand_on_characteristics(Screens& screens, bool with_details) {
     translation.MSFlexChar.set_rows(0);
     details.set_rows(0);
 
-    const Grid& table = import.MSFlexKeldarIN;
-    for (int column = position_in(import.lblColumn.text()); column < table.columns(); ++column) {
+    const Grid& table = display.MSFlexKeldarIN;
+    for (int column = position_in(display.lblColumn.text()); column < table.columns(); ++column) {
         const std::string_view heading = table.cell(0, column);
         if (heading.empty()) continue;
         translation.lstCharacteristics.add(heading);
         translation.MSFlexChar.add_row(heading);
         if (with_details) details.add_row({});
     }
-    import.hide();
+    display.hide();
     translation.show();
     for (int row = 0; row < translation.MSFlexChar.rows(); ++row) {
         if (is_ph(trim(translation.MSFlexChar.cell(row, 0)))) {
@@ -67,66 +76,99 @@ void hand_on_characteristics(Screens& screens, bool with_details) {
 }
 
 void go_on_from_columns(Screens& screens, bool with_details) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.MSFlexKeldarIN.set_highlight(Highlight::with_focus);
-    import.frameSameSelections.hide();
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.MSFlexKeldarIN.set_highlight(Highlight::with_focus);
+    display.frameSameSelections.hide();
     if (screens.frmPreferencesSampleOption.chkChar.ticked()) {
         hand_on_characteristics(screens, with_details);
         return;
     }
-    import.frameCategoryResults.hide();
-    import.frameRowSelection.show();
-    import.MSFlexKeldarIN.set_selection(Selection::by_row);
-    import.lblRow.clear_text();
-    import.lblRowVis.clear_text();
-    hide_markers(import);
-    import.lblSelectedCategory.set_text(row_category);
-    import.cmdRowContinue.disable();
+    display.frameCategoryResults.hide();
+    display.frameRowSelection.show();
+    display.MSFlexKeldarIN.set_selection(Selection::by_row);
+    display.lblRow.clear_text();
+    display.lblRowVis.clear_text();
+    hide_markers(display);
+    display.lblSelectedCategory.set_text(row_category);
+    display.cmdRowContinue.disable();
 }
 
 }  // namespace
 
 void choose_category(Screens& screens, const Category& category) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.lblSelectedCategory.set_text(category.text);
-    hide_markers(import);
-    (import.*category.clear).enable();
-    import.MSFlexKeldarIN.set_highlight(Highlight::with_focus);
-    if (category.button == &FrmImportFileDisplay::cmdResults) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.lblSelectedCategory.set_text(category.text);
+    hide_markers(display);
+    (display.*category.clear).enable();
+    display.MSFlexKeldarIN.set_highlight(Highlight::with_focus);
+    if (is_results(category)) {
         mark_results(screens);
     } else {
-        (import.*category.marker).show();
+        (display.*category.marker).show();
     }
 }
 
-void clear_category(FrmImportFileDisplay& import, const Category& category) {
-    (import.*category.column).clear_text();
-    (import.*category.visible_column).clear_text();
-    if (category.required) import.cmdContinue.disable();
+void cmdCharYes_Click(Screens& screens) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.frameChar.hide();
+    display.frameCategoryResults.hide();
+    display.frameCharColumn.show();
+    FrmStart& start = screens.frmStart;
+    start.frameLog.hide();
+    start.cmdView.disable();
+    start.frameFiles.hide();
+    choose_category(screens, results_category());
+    if (start.chkPreferences.ticked()) display.cmdContinue.disable();
+}
+
+void cmdCharNo_Click(Screens& screens) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.frameChar.hide();
+    display.frameCategoryResults.hide();
+    display.frameCharColumn.hide();
+    for (const Category& category : categories) {
+        if (is_results(category)) continue;
+        (display.*category.button).enable();
+        if (category.clear != &FrmImportFileDisplay::cmdPersonClear) {
+            (display.*category.clear).enable();
+        }
+    }
+    display.hide();
+    FrmCharSource& source = screens.frmCharSource;
+    source.show();
+    source.frameFiles.show();
+    source.cmdView.disable();
+    source.lblSelectedFile.clear_text();
+}
+
+void clear_category(FrmImportFileDisplay& display, const Category& category) {
+    (display.*category.column).clear_text();
+    (display.*category.visible_column).clear_text();
+    if (category.required) display.cmdContinue.disable();
 }
 
 void MSFlexKeldarIN_Click(Screens& screens) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    const GridCell clicked = import.MSFlexKeldarIN.current();
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    const GridCell clicked = display.MSFlexKeldarIN.current();
     for (const Category& category : categories) {
-        if (import.lblSelectedCategory.text() != category.text) continue;
-        assign(import.*category.column, import.*category.visible_column, clicked.column);
+        if (display.lblSelectedCategory.text() != category.text) continue;
+        assign(display.*category.column, display.*category.visible_column, clicked.column);
     }
-    import.cmdContinue.set_enabled(!import.lblStationVis.empty() && !import.lblDateVis.empty() &&
-                                   !import.lblColumnVis.empty());
-    if (import.lblSelectedCategory.text() == row_category) {
-        assign(import.lblRow, import.lblRowVis, clicked.row);
+    display.cmdContinue.set_enabled(!display.lblStationVis.empty() && !display.lblDateVis.empty() &&
+                                    !display.lblColumnVis.empty());
+    if (display.lblSelectedCategory.text() == row_category) {
+        assign(display.lblRow, display.lblRowVis, clicked.row);
     }
     if (!screens.frmStart.chkPreferences.ticked()) {
-        if (!import.lblRow.empty()) import.cmdContinue.enable();
-        if (!import.lblRowVis.empty()) {
-            import.cmdRowContinue.enable();
-            import.cmdCharContinue.enable();
+        if (!display.lblRow.empty()) display.cmdContinue.enable();
+        if (!display.lblRowVis.empty()) {
+            display.cmdRowContinue.enable();
+            display.cmdCharContinue.enable();
         }
-    } else if (!import.lblColumnVis.empty()) {
-        import.cmdContinue.enable();
-        import.cmdRowContinue.enable();
-        import.cmdCharContinue.enable();
+    } else if (!display.lblColumnVis.empty()) {
+        display.cmdContinue.enable();
+        display.cmdRowContinue.enable();
+        display.cmdCharContinue.enable();
     }
 }
 
@@ -134,22 +176,22 @@ void cmdContinue_Click(Screens& screens) { go_on_from_columns(screens, true); }
 
 void cmdCharContinue_Click(Screens& screens) { go_on_from_columns(screens, false); }
 
-void cmdRowClear_Click(FrmImportFileDisplay& import) {
-    import.lblRow.clear_text();
-    import.cmdRowContinue.disable();
+void cmdRowClear_Click(FrmImportFileDisplay& display) {
+    display.lblRow.clear_text();
+    display.cmdRowContinue.disable();
 }
 
-void cmdRowContinue_Click(FrmImportFileDisplay& import) {
-    import.lblSelectedCategory.clear_text();
-    import.MSFlexKeldarIN.set_highlight(Highlight::never);
-    import.frameConfiguration.hide();
-    import.cmdFormatConfirm.enable();
+void cmdRowContinue_Click(FrmImportFileDisplay& display) {
+    display.lblSelectedCategory.clear_text();
+    display.MSFlexKeldarIN.set_highlight(Highlight::never);
+    display.frameConfiguration.hide();
+    display.cmdFormatConfirm.enable();
 }
 
-void cmdRowIdBack_Click(FrmImportFileDisplay& import) {
-    import.frameCategoryResults.show();
-    import.frameRowSelection.hide();
-    import.MSFlexKeldarIN.set_selection(Selection::by_column);
+void cmdRowIdBack_Click(FrmImportFileDisplay& display) {
+    display.frameCategoryResults.show();
+    display.frameRowSelection.hide();
+    display.MSFlexKeldarIN.set_selection(Selection::by_column);
 }
 
 }  // namespace brooklander

@@ -12,7 +12,7 @@ namespace brooklander {
 struct Category {
     using Screen = FrmImportFileDisplay;
 
-    std::string_view text;          // as lblSelectedCategory holds it while it is in work
+    std::string_view text;  // as lblSelectedCategory holds it while it is in work
     Button Screen::*button;
     Label Screen::*marker;          // the X before the category in work
     Label Screen::*column;          // the assigned column from 0, or empty
@@ -52,8 +52,13 @@ inline constexpr std::array<Category, 8> categories{{
 // own, which hang on what the run is for.
 void choose_category(Screens& screens, const Category& category);
 
+// "Set Up Characteristic Defaults For This File?": Yes asks for the first column with the name of a
+// characteristic; No leads to the choice of another file.
+void cmdCharYes_Click(Screens& screens);
+void cmdCharNo_Click(Screens& screens);
+
 // A Clear button.
-void clear_category(FrmImportFileDisplay& import, const Category& category);
+void clear_category(FrmImportFileDisplay& display, const Category& category);
 
 // A click on a cell of the table: its column, or its row in the row stage, goes to what is in work.
 // Nothing is checked; one column can be given to two categories.
@@ -65,8 +70,8 @@ void MSFlexKeldarIN_Click(Screens& screens);
 void cmdContinue_Click(Screens& screens);
 void cmdCharContinue_Click(Screens& screens);
 
-void cmdRowClear_Click(FrmImportFileDisplay& import);
-void cmdRowContinue_Click(FrmImportFileDisplay& import);
-void cmdRowIdBack_Click(FrmImportFileDisplay& import);
+void cmdRowClear_Click(FrmImportFileDisplay& display);
+void cmdRowContinue_Click(FrmImportFileDisplay& display);
+void cmdRowIdBack_Click(FrmImportFileDisplay& display);
 
 }  // namespace brooklander

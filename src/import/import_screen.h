@@ -31,8 +31,7 @@ struct FrmImportFileDisplay : Screen {
     Panel frameCharColumn{*this, "frameCharColumn", "Select Characteristics", hidden};
     Button cmdCharContinue{frameCharColumn, "cmdCharContinue", "Continue =>"};
 
-    Panel frameFileBeingConverted{*this, "frameFileBeingConverted", "File Being Converted",
-                                  hidden};
+    Panel frameFileBeingConverted{*this, "frameFileBeingConverted", "File Being Converted", hidden};
     Label lblSelectedFile{frameFileBeingConverted, "lblSelectedFile"};
     Button cmdSave{frameFileBeingConverted, "cmdSave", "Continue =>"};
 
@@ -109,6 +108,18 @@ struct FrmImportFileDisplay : Screen {
     Panel frameFormat{*this, "frameFormat", "Select Format File Will Be Converted To", hidden};
     Option optVox{frameFormat, "optVox", "VOX"};
     Option optBatch{frameFormat, "optBatch", "Batch"};
+
+    Button cmdFormatContinue{frameFormat, "cmdFormatContinue", "Continue =>"};
+
+    // Parts of the screen that no step shows.
+    Panel frmResults{*this, "frmResults", {}, hidden};
+    Button cmdResultsContinue{frmResults, "cmdResultsContinue", "Continue =>"};
+    Panel frameSelectionError{*this, "frameSelectionError", "Selection Error", hidden};
+    Label lblSelectionError{
+        frameSelectionError, "lblSelectionError",
+        "The selected column has already been assigned to another Category.  Either select a "
+        "different column or press the Clear button to the right of the Category the column was "
+        "assigned to."};
 
     Panel frameConverted{*this, "frameConverted", "Confirmation Of Converted File", hidden};
     Label lblConvertedFile{frameConverted, "lblConvertedFile"};

@@ -7,9 +7,9 @@ constexpr int first_column_width = 1800;
 constexpr int third_column_width = 1400;
 constexpr int top_in_panel = 240;
 
-void prepare(FrmImportFileDisplay& import) {
-    import.MSFlexResults.set_rows(0);
-    Grid& table = import.MSFlexKeldarIN;
+void prepare(FrmImportFileDisplay& display) {
+    display.MSFlexResults.set_rows(0);
+    Grid& table = display.MSFlexKeldarIN;
     table.clear();
     table.set_row_height(0, 1);
     table.set_rows(0);

@@ -6,8 +6,8 @@
 namespace brooklander {
 namespace {
 
-void enable_clear_buttons(FrmImportFileDisplay& import, bool enabled) {
-    for (const Category& category : categories) (import.*category.clear).set_enabled(enabled);
+void enable_clear_buttons(FrmImportFileDisplay& display, bool enabled) {
+    for (const Category& category : categories) (display.*category.clear).set_enabled(enabled);
 }
 
 void clear_options(FrmPreferences& preferences) {
@@ -17,19 +17,19 @@ void clear_options(FrmPreferences& preferences) {
     preferences.optUseConfig.set_on(false);
 }
 
-void forget_existing_file(FrmImportFileDisplay& import) {
-    import.cmdExistingFileDelete.disable();
-    import.frameExistingFile.hide();
-    import.lblDeletedFile.clear_text();
+void forget_existing_file(FrmImportFileDisplay& display) {
+    display.cmdExistingFileDelete.disable();
+    display.frameExistingFile.hide();
+    display.lblDeletedFile.clear_text();
 }
 
 }  // namespace
 
 void cmdYes_Click(Screens& screens) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.chkYes.set_ticked(true);
-    import.frameImportConfirm.hide();
-    import.hide();
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.chkYes.set_ticked(true);
+    display.frameImportConfirm.hide();
+    display.hide();
     FrmPreferences& preferences = screens.frmPreferences;
     preferences.show();
 
@@ -54,14 +54,14 @@ void cmdYes_Click(Screens& screens) {
 
     const std::string output =
         std::string(workspace::converted_files) + screens.frmStart.lblSelectedFile.text();
-    import.lblSelectedFile.set_text(output);
-    import.txtSave.set_text(output);
+    display.lblSelectedFile.set_text(output);
+    display.txtSave.set_text(output);
 }
 
 void cmdNo_Click(Screens& screens) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.chkYes.set_ticked(false);
-    import.hide();
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.chkYes.set_ticked(false);
+    display.hide();
     FrmStart& start = screens.frmStart;
     start.show();
     start.optLogNo.set_on(false);
@@ -70,67 +70,75 @@ void cmdNo_Click(Screens& screens) {
 }
 
 void cmdSave_Click(Screens& screens, Files& files) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    if (import.lblStationVis.empty()) {
-        import.frameSameSelections.hide();
-        import.cmdFormatConfirm.disable();
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    if (display.lblStationVis.empty()) {
+        display.frameSameSelections.hide();
+        display.cmdFormatConfirm.disable();
     }
-    if (screens.frmPreferences.optVox.on()) import.txtSave.set_text(import.lblSelectedFile.text());
+    if (screens.frmPreferences.optVox.on())
+        display.txtSave.set_text(display.lblSelectedFile.text());
     // The list holds bare names, so that only a bare name in the box can be found there.
-    if (import.fileConvertedFiles.find(import.txtSave.text())) {
-        import.frameOutputFile.show();
-        import.frameExistingFile.show();
+    if (display.fileConvertedFiles.find(display.txtSave.text())) {
+        display.frameOutputFile.show();
+        display.frameExistingFile.show();
     }
-    import.cmdSave.disable();
-    files.create(import.txtSave.text())->close();
-    import.lblDeletedFile.clear_text();
-    import.fileConvertedFiles.refresh();
+    display.cmdSave.disable();
+    files.create(display.txtSave.text())->close();
+    display.lblDeletedFile.clear_text();
+    display.fileConvertedFiles.refresh();
 
-    import.frameActivity.show();
-    import.txtActivityID.set_focus();
-    import.cmdActivityContinue.disable();
-    import.frameCategoryResults.hide();
-    import.frameOutputFile.hide();
-    import.frameImportedFile.show();
-    import.MSFlexKeldarIN.set_selection(Selection::by_column);
+    display.frameActivity.show();
+    display.txtActivityID.set_focus();
+    display.cmdActivityContinue.disable();
+    display.frameCategoryResults.hide();
+    display.frameOutputFile.hide();
+    display.frameImportedFile.show();
+    display.MSFlexKeldarIN.set_selection(Selection::by_column);
 }
 
-void txtSave_Change(FrmImportFileDisplay& import) {
-    if (import.txtSave.empty()) {
-        import.cmdSave.disable();
-        import.frameExistingFile.hide();
+void txtSave_Change(FrmImportFileDisplay& display) {
+    if (display.txtSave.empty()) {
+        display.cmdSave.disable();
+        display.frameExistingFile.hide();
         return;
     }
-    import.cmdSave.enable();
-    forget_existing_file(import);
+    display.cmdSave.enable();
+    forget_existing_file(display);
 }
 
-void txtSave_Click(FrmImportFileDisplay& import) { forget_existing_file(import); }
+void txtSave_Click(FrmImportFileDisplay& display) { forget_existing_file(display); }
 
-void leave_activity_filler(FrmImportFileDisplay& import) {
-    import.frameActivity.hide();
-    import.mnuExit.disable();
-    const bool selections_remain = !import.lblStationVis.empty();
-    import.frameSameSelections.set_visible(selections_remain);
-    import.frameCategoryResults.show();
-    import.cmdContinue.disable();
-    enable_clear_buttons(import, !selections_remain);
+void leave_activity_filler(FrmImportFileDisplay& display) {
+    display.frameActivity.hide();
+    display.mnuExit.disable();
+    const bool selections_remain = !display.lblStationVis.empty();
+    display.frameSameSelections.set_visible(selections_remain);
+    display.frameCategoryResults.show();
+    display.cmdContinue.disable();
+    enable_clear_buttons(display, !selections_remain);
 }
 
-void cmdColumnYes_Click(FrmImportFileDisplay& import) {
-    import.frameCategoryResults.show();
-    import.cmdContinue.enable();
-    import.cmdRowContinue.enable();
-    enable_clear_buttons(import, false);
+void cmdColumnYes_Click(FrmImportFileDisplay& display) {
+    display.frameCategoryResults.show();
+    display.cmdContinue.enable();
+    display.cmdRowContinue.enable();
+    enable_clear_buttons(display, false);
 }
 
-void cmdColumnNo_Click(FrmImportFileDisplay& import) {
-    import.frameSameSelections.hide();
-    import.frameCategoryResults.show();
-    import.cmdContinue.enable();
-    import.cmdRowContinue.disable();
-    for (const Category& category : categories) (import.*category.button).enable();
-    enable_clear_buttons(import, true);
+void cmdColumnNo_Click(FrmImportFileDisplay& display) {
+    display.frameSameSelections.hide();
+    display.frameCategoryResults.show();
+    display.cmdContinue.enable();
+    display.cmdRowContinue.disable();
+    for (const Category& category : categories) (display.*category.button).enable();
+    enable_clear_buttons(display, true);
+}
+
+void cmdFormatContinue_Click(FrmImportFileDisplay& display) {
+    display.frameFormat.hide();
+    display.frameOutputFile.show();
+    display.chkView.set_ticked(true);
+    display.txtSave.set_focus();
 }
 
 void mnuExit_Click(Screens& screens) {

@@ -15,15 +15,18 @@ void cmdNo_Click(Screens& screens);
 // cannot be created is a FatalFailure.
 void cmdSave_Click(Screens& screens, Files& files);
 
-void txtSave_Change(FrmImportFileDisplay& import);
-void txtSave_Click(FrmImportFileDisplay& import);
+void txtSave_Change(FrmImportFileDisplay& display);
+void txtSave_Click(FrmImportFileDisplay& display);
 
 // Both buttons under the filler: a text typed before Skip is used all the same.
-void leave_activity_filler(FrmImportFileDisplay& import);
+void leave_activity_filler(FrmImportFileDisplay& display);
 
 // "Use Existing Column Selections ?"
-void cmdColumnYes_Click(FrmImportFileDisplay& import);
-void cmdColumnNo_Click(FrmImportFileDisplay& import);
+void cmdColumnYes_Click(FrmImportFileDisplay& display);
+void cmdColumnNo_Click(FrmImportFileDisplay& display);
+
+// The choice of a format, which no step offers.
+void cmdFormatContinue_Click(FrmImportFileDisplay& display);
 
 void mnuExit_Click(Screens& screens);
 

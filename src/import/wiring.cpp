@@ -7,37 +7,41 @@
 namespace brooklander {
 
 void wire_import(Screens& screens, Platform& platform) {
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.on_load = [&] {
-        import.optVox.set_on(true);
-        import.fileConvertedFiles.set_path(workspace::converted_files);
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.on_load = [&] {
+        display.optVox.set_on(true);
+        display.fileConvertedFiles.set_path(workspace::converted_files);
     };
-    import.mnuExit.on_click = [&] { mnuExit_Click(screens); };
-    import.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
+    display.mnuExit.on_click = [&] { mnuExit_Click(screens); };
+    display.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
 
-    import.cmdYes.on_click = [&] { cmdYes_Click(screens); };
-    import.cmdNo.on_click = [&] { cmdNo_Click(screens); };
-    import.cmdSave.on_click = [&] { cmdSave_Click(screens, platform.files); };
-    import.txtSave.on_change = [&] { txtSave_Change(import); };
-    import.txtSave.on_click = [&] { txtSave_Click(import); };
-    import.txtActivityID.on_change = [&] {
-        if (!import.txtActivityID.empty()) import.cmdActivityContinue.enable();
+    display.cmdYes.on_click = [&] { cmdYes_Click(screens); };
+    display.cmdNo.on_click = [&] { cmdNo_Click(screens); };
+    display.cmdSave.on_click = [&] { cmdSave_Click(screens, platform.files); };
+    display.txtSave.on_change = [&] { txtSave_Change(display); };
+    display.txtSave.on_click = [&] { txtSave_Click(display); };
+    display.txtActivityID.on_change = [&] {
+        if (!display.txtActivityID.empty()) display.cmdActivityContinue.enable();
     };
-    import.cmdActivityContinue.on_click = [&] { leave_activity_filler(import); };
-    import.cmdActivitySkip.on_click = [&] { leave_activity_filler(import); };
-    import.cmdColumnYes.on_click = [&] { cmdColumnYes_Click(import); };
-    import.cmdColumnNo.on_click = [&] { cmdColumnNo_Click(import); };
+    display.cmdActivityContinue.on_click = [&] { leave_activity_filler(display); };
+    display.cmdActivitySkip.on_click = [&] { leave_activity_filler(display); };
+    display.cmdColumnYes.on_click = [&] { cmdColumnYes_Click(display); };
+    display.cmdColumnNo.on_click = [&] { cmdColumnNo_Click(display); };
+
+    display.cmdCharYes.on_click = [&] { cmdCharYes_Click(screens); };
+    display.cmdCharNo.on_click = [&] { cmdCharNo_Click(screens); };
+    display.cmdFormatContinue.on_click = [&] { cmdFormatContinue_Click(display); };
 
     for (const Category& category : categories) {
-        (import.*category.button).on_click = [&] { choose_category(screens, category); };
-        (import.*category.clear).on_click = [&] { clear_category(import, category); };
+        (display.*category.button).on_click = [&] { choose_category(screens, category); };
+        (display.*category.clear).on_click = [&] { clear_category(display, category); };
     }
-    import.MSFlexKeldarIN.on_click = [&] { MSFlexKeldarIN_Click(screens); };
-    import.cmdContinue.on_click = [&] { cmdContinue_Click(screens); };
-    import.cmdCharContinue.on_click = [&] { cmdCharContinue_Click(screens); };
-    import.cmdRowClear.on_click = [&] { cmdRowClear_Click(import); };
-    import.cmdRowContinue.on_click = [&] { cmdRowContinue_Click(import); };
-    import.cmdRowIdBack.on_click = [&] { cmdRowIdBack_Click(import); };
+    display.MSFlexKeldarIN.on_click = [&] { MSFlexKeldarIN_Click(screens); };
+    display.cmdContinue.on_click = [&] { cmdContinue_Click(screens); };
+    display.cmdCharContinue.on_click = [&] { cmdCharContinue_Click(screens); };
+    display.cmdRowClear.on_click = [&] { cmdRowClear_Click(display); };
+    display.cmdRowContinue.on_click = [&] { cmdRowContinue_Click(display); };
+    display.cmdRowIdBack.on_click = [&] { cmdRowIdBack_Click(display); };
 }
 
 }  // namespace brooklander

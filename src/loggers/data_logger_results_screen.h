@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmDataLoggerResults : Screen {
-    explicit FrmDataLoggerResults(Desk& desk) : Screen(desk, "frmDataLoggerResults", "Data Logger Results Import") {}
+    explicit FrmDataLoggerResults(Desk& desk)
+        : Screen(desk, "frmDataLoggerResults", "Data Logger Results Import") {}
 };
 
 }  // namespace brooklander

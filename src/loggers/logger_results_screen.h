@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmLoggerResults : Screen {
-    explicit FrmLoggerResults(Desk& desk) : Screen(desk, "frmLoggerResults", "Data Logger Results") {}
+    explicit FrmLoggerResults(Desk& desk)
+        : Screen(desk, "frmLoggerResults", "Data Logger Results") {}
 };
 
 }  // namespace brooklander

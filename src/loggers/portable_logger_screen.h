@@ -6,7 +6,8 @@
 namespace brooklander {
 
 struct FrmPortableDataLogger : Screen {
-    explicit FrmPortableDataLogger(Desk& desk) : Screen(desk, "frmPortableDataLogger", "Portable Data Logger") {}
+    explicit FrmPortableDataLogger(Desk& desk)
+        : Screen(desk, "frmPortableDataLogger", "Portable Data Logger") {}
 };
 
 }  // namespace brooklander

@@ -16,11 +16,11 @@ void reset_selection(FrmStart& start) {
 }
 
 // The depth's Clear button is left as it is.
-void enable_categories(FrmImportFileDisplay& import) {
+void enable_categories(FrmImportFileDisplay& display) {
     for (const Category& category : categories) {
-        (import.*category.button).enable();
+        (display.*category.button).enable();
         if (category.clear != &FrmImportFileDisplay::cmdDepthClear) {
-            (import.*category.clear).enable();
+            (display.*category.clear).enable();
         }
     }
 }
@@ -34,10 +34,10 @@ void mnuImport_Click(Screens& screens) {
     start.frameLog.hide();
     start.chkPreferences.set_ticked(false);
 
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
-    import.frameSameSelections.hide();
-    import.frameVOX.hide();
-    enable_categories(import);
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    display.frameSameSelections.hide();
+    display.frameVOX.hide();
+    enable_categories(display);
 
     FrmPreferences& preferences = screens.frmPreferences;
     preferences.optBrookLanderEdit.disable();
@@ -47,7 +47,7 @@ void mnuImport_Click(Screens& screens) {
     preferences.optUseConfig.disable();
 
     start.Dir1.set_path("c:\\");
-    if (import.lblStationVis.empty()) import.frameSameSelections.hide();
+    if (display.lblStationVis.empty()) display.frameSameSelections.hide();
 }
 
 void Drive1_Change(FrmStart& start) {
@@ -70,12 +70,12 @@ void Dir1_Click(FrmStart& start) {
 
 void lstImportFileBox_Click(Screens& screens) {
     FrmStart& start = screens.frmStart;
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     const std::string name = start.lstImportFileBox.text();
     start.lblSelectedFile.set_text(name);
-    import.lblSelectedFile.set_text(name);
+    display.lblSelectedFile.set_text(name);
     screens.frmPreferences.lblFileConverted.set_text(name);
-    import.MSFlexKeldarIN.clear();
+    display.MSFlexKeldarIN.clear();
 
     start.frameLog.hide();
     start.optLogYes.set_on(false);
@@ -85,35 +85,34 @@ void lstImportFileBox_Click(Screens& screens) {
 
 void cmdView_Click(Screens& screens, const Files& files) {
     FrmStart& start = screens.frmStart;
-    FrmImportFileDisplay& import = screens.frmImportFileDisplay;
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     const bool for_configuration = start.chkPreferences.ticked();
     start.cmdView.disable();
-    import.frameChar.set_visible(for_configuration);
-    import.frameImportConfirm.set_visible(!for_configuration);
-    import.frameCharColumn.hide();
-    import.cmdCharContinue.disable();
+    display.frameChar.set_visible(for_configuration);
+    display.frameImportConfirm.set_visible(!for_configuration);
+    display.frameCharColumn.hide();
+    display.cmdCharContinue.disable();
     screens.frmPreferences.mnuExit.enable();
-    import.MSFlexResults.set_rows(0);
-    import.MSFlexKeldarIN.clear();
+    display.MSFlexResults.set_rows(0);
+    display.MSFlexKeldarIN.clear();
 
     start.hide();
-    import.show();
-    import.mnuExit.disable();
-    import.cmdSave.disable();
-    import.frameImportedFile.show();
+    display.show();
+    display.mnuExit.disable();
+    display.cmdSave.disable();
+    display.frameImportedFile.show();
 
     const bool for_characteristics = screens.frmPreferencesSampleOption.chkChar.ticked();
-    if (!for_characteristics || import.optAnotherFile.on()) {
-        import.frameImportConfirm.show();
-        import.frameChar.hide();
+    if (!for_characteristics || display.optAnotherFile.on()) {
+        display.frameImportConfirm.show();
+        display.frameChar.hide();
     }
     if (for_characteristics) {
-        import.frameImportConfirm.hide();
-        import.frameChar.show();
+        display.frameImportConfirm.hide();
+        display.frameChar.show();
     }
-    const std::string path =
-        start.lstImportFileBox.path() + "\\" + start.lblSelectedFile.text();
-    import.lblSelectedFile.set_text(path);
+    const std::string path = start.lstImportFileBox.path() + "\\" + start.lblSelectedFile.text();
+    display.lblSelectedFile.set_text(path);
     load_import_table(screens, files, path);
 }
 

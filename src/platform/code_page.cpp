@@ -15,8 +15,7 @@ constexpr std::array<char16_t, 32> special_characters{
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 char32_t character_of(unsigned char byte) {
-    const bool special =
-        byte >= first_special && byte < first_special + special_characters.size();
+    const bool special = byte >= first_special && byte < first_special + special_characters.size();
     return special ? special_characters[byte - first_special] : byte;
 }
 

@@ -22,11 +22,13 @@ void check(const std::error_code& fault, const std::string& what) {
     if (fault) throw Unmet(what + ": " + fault.message() + ".");
 }
 
+std::string shown(const std::string& path) { return "\"" + to_utf8(path) + "\""; }
+
 fs::path with_folders(const Stage& stage, const std::string& path) {
-    const fs::path target = stage.host_path(path);
+    fs::path target = stage.host_path(path);
     std::error_code fault;
     fs::create_directories(target.parent_path(), fault);
-    check(fault, "The folders of " + in_quotes(path) + " cannot be made");
+    check(fault, "The folders of " + shown(path) + " cannot be made");
     return target;
 }
 
@@ -36,7 +38,7 @@ Step copy_step(const Arguments& arguments) {
                    to = arguments.text(1)](Stage& stage) {
         std::error_code fault;
         fs::copy_file(from, with_folders(stage, to), fs::copy_options::overwrite_existing, fault);
-        check(fault, "\"" + from.string() + "\" cannot be copied to " + in_quotes(to));
+        check(fault, "\"" + from.string() + "\" cannot be copied to " + shown(to));
     });
 }
 
@@ -45,7 +47,7 @@ Step write_step(const Arguments& arguments) {
     return always([path = arguments.text(0), text = arguments.text(1)](Stage& stage) {
         std::ofstream file(with_folders(stage, path), std::ios::binary);
         file << text;
-        if (!file.flush()) throw Unmet(in_quotes(path) + " cannot be written.");
+        if (!file.flush()) throw Unmet(shown(path) + " cannot be written.");
     });
 }
 
@@ -58,7 +60,7 @@ Step remove_step(const Arguments& arguments) {
         }
         std::error_code fault;
         fs::remove_all(target, fault);
-        check(fault, in_quotes(path) + " cannot be removed");
+        check(fault, shown(path) + " cannot be removed");
     });
 }
 
@@ -67,7 +69,7 @@ Step make_step(const Arguments& arguments) {
     return always([path = arguments.text(0)](Stage& stage) {
         std::error_code fault;
         fs::create_directories(stage.host_path(path), fault);
-        check(fault, in_quotes(path) + " cannot be made");
+        check(fault, shown(path) + " cannot be made");
     });
 }
 

@@ -41,13 +41,19 @@ Check flag(bool (Field::*ask)() const, bool wanted, const std::string& word,
 }
 
 constexpr std::initializer_list<FieldKind> with_text{
-    screen, panel, label, text_box, button, tick_box, option, pick_list,
-    drive_list, folder_list, file_list, menu_entry};
+    screen, panel,     label,      text_box,    button,    tick_box,
+    option, pick_list, drive_list, folder_list, file_list, menu_entry};
 constexpr std::initializer_list<FieldKind> lists{list, pick_list, drive_list, folder_list,
                                                  file_list};
 constexpr std::initializer_list<FieldKind> any_or_screen{
-    screen, panel, label, text_box, button, tick_box, option, list,
-    pick_list, drive_list, folder_list, file_list, menu_entry, grid, data_source};
+    screen,    panel,      label,       text_box,  button,     tick_box, option,     list,
+    pick_list, drive_list, folder_list, file_list, menu_entry, grid,     data_source};
+
+// A masked text is not told, not even when it is not the expected one.
+std::string shown_text(const Field& field) {
+    const bool masked = field.kind() == text_box && static_cast<const TextBox&>(field).masked();
+    return in_quotes(masked ? std::string(field.text().size(), '*') : field.text());
+}
 
 const Grid& as_grid(const Field& field) { return static_cast<const Grid&>(field); }
 
@@ -83,7 +89,7 @@ Expectation condition_expectation(const Arguments& arguments, const Check& check
 Expectation text_expectation(const Arguments& arguments) {
     arguments.want(3);
     return {arguments.field(0, with_text), [text = arguments.text(2)](const Field& field) {
-                want_text(field, "", text, field.text());
+                want(text == field.text(), field, in_quotes(text), shown_text(field));
             }};
 }
 
@@ -132,10 +138,10 @@ Expectation cell_expectation(const Arguments& arguments) {
     const GridCell cell{arguments.number(2, "row"), arguments.number(3, "column")};
     return {arguments.field(0, {grid}), [cell, text = arguments.text(4)](const Field& field) {
                 want_cell(as_grid(field), cell);
-                want_text(field,
-                          "in cell " + std::to_string(cell.row) + " " +
-                              std::to_string(cell.column) + " ",
-                          text, as_grid(field).cell(cell.row, cell.column));
+                want_text(
+                    field,
+                    "in cell " + std::to_string(cell.row) + " " + std::to_string(cell.column) + " ",
+                    text, as_grid(field).cell(cell.row, cell.column));
             }};
 }
 
@@ -184,19 +190,19 @@ Expectation word_expectation(const Arguments& arguments, std::initializer_list<F
 }
 
 Expectation selection_expectation(const Arguments& arguments) {
-    return word_expectation<Selection>(arguments, {grid},
-                                       {{"free", Selection::free},
-                                        {"row", Selection::by_row},
-                                        {"column", Selection::by_column}},
-                                       [](const Field& field) { return as_grid(field).selection(); });
+    return word_expectation<Selection>(
+        arguments, {grid},
+        {{"free", Selection::free}, {"row", Selection::by_row}, {"column", Selection::by_column}},
+        [](const Field& field) { return as_grid(field).selection(); });
 }
 
 Expectation highlight_expectation(const Arguments& arguments) {
-    return word_expectation<Highlight>(arguments, {grid},
-                                       {{"never", Highlight::never},
-                                        {"always", Highlight::always},
-                                        {"focus", Highlight::with_focus}},
-                                       [](const Field& field) { return as_grid(field).highlight(); });
+    return word_expectation<Highlight>(
+        arguments, {grid},
+        {{"never", Highlight::never},
+         {"always", Highlight::always},
+         {"focus", Highlight::with_focus}},
+        [](const Field& field) { return as_grid(field).highlight(); });
 }
 
 Expectation pointer_expectation(const Arguments& arguments) {
@@ -236,10 +242,10 @@ Expectation expectation_of(const Arguments& arguments) {
 }  // namespace
 
 Step expect_step(const Arguments& arguments) {
-    return {{}, Works::while_running, false,
-            [expectation = expectation_of(arguments)](Stage& stage) {
-                expectation.check(stage.field(expectation.field));
-            }};
+    return {
+        {}, Works::while_running, false, [expectation = expectation_of(arguments)](Stage& stage) {
+            expectation.check(stage.field(expectation.field));
+        }};
 }
 
 }  // namespace brooklander::scenario

@@ -1,3 +1,4 @@
+#include "platform/code_page.h"
 #include "platform/fatal_failure.h"
 #include "scenario/arguments.h"
 #include "scenario/commands.h"
@@ -21,7 +22,7 @@ FileText text_of(const fs::path& file, const std::string& shown) {
 }
 
 void want(bool holds, const std::string& shown, const std::string& what) {
-    if (!holds) throw Unmet(shown + " " + what);
+    if (!holds) throw Unmet("\"" + shown + "\" " + what);
 }
 
 Check whole_text_check(std::function<void(std::string_view, const std::string&)> check) {
@@ -60,20 +61,20 @@ Check line_check(const Arguments& arguments) {
     arguments.want(4);
     const int number = arguments.number(2, "line");
     if (number == 0) throw WrongLine("Lines are counted from 1.");
-    return whole_text_check([number, expected = arguments.text(3)](std::string_view text,
-                                                                   const std::string& shown) {
-        LineReader reader(text);
-        std::string_view line;
-        for (int passed = 0; passed < number; ++passed) {
-            want(!reader.at_end(), shown,
-                 "has " + std::to_string(passed) + " lines, expected a line " +
-                     std::to_string(number) + ".");
-            line = reader.next();
-        }
-        want(line == expected, shown,
-             "line " + std::to_string(number) + ": expected " + in_quotes(expected) + ", found " +
-                 in_quotes(line) + ".");
-    });
+    return whole_text_check(
+        [number, expected = arguments.text(3)](std::string_view text, const std::string& shown) {
+            LineReader reader(text);
+            std::string_view line;
+            for (int passed = 0; passed < number; ++passed) {
+                want(!reader.at_end(), shown,
+                     "has " + std::to_string(passed) + " lines, expected a line " +
+                         std::to_string(number) + ".");
+                line = reader.next();
+            }
+            want(line == expected, shown,
+                 "line " + std::to_string(number) + ": expected " + in_quotes(expected) +
+                     ", found " + in_quotes(line) + ".");
+        });
 }
 
 // Where two texts first differ, for a message.
@@ -107,11 +108,12 @@ Check same_check(const Arguments& arguments) {
 
 Check holds_check(const Arguments& arguments, bool wanted) {
     arguments.want(3);
-    return whole_text_check([wanted, part = arguments.text(2)](std::string_view text,
-                                                               const std::string& shown) {
-        const bool holds = text.find(part) != std::string_view::npos;
-        want(holds == wanted, shown, (wanted ? "lacks " : "holds ") + in_quotes(part) + ".");
-    });
+    if (arguments.text(2).empty()) throw WrongLine("No bytes stand in every file.");
+    return whole_text_check(
+        [wanted, part = arguments.text(2)](std::string_view text, const std::string& shown) {
+            const bool holds = text.find(part) != std::string_view::npos;
+            want(holds == wanted, shown, (wanted ? "lacks " : "holds ") + in_quotes(part) + ".");
+        });
 }
 
 Check presence_check(const Arguments& arguments, bool wanted) {
@@ -124,9 +126,15 @@ Check presence_check(const Arguments& arguments, bool wanted) {
 
 Check empty_check(const Arguments& arguments) {
     arguments.want(2);
-    return whole_text_check([](std::string_view text, const std::string& shown) {
-        want(text.empty(), shown, "has " + std::to_string(text.size()) + " bytes, expected none.");
-    });
+    return [](const fs::path& file, const std::string& shown) {
+        std::error_code ignored;
+        if (fs::is_directory(file, ignored)) {
+            want(fs::is_empty(file, ignored), shown, "is a folder that is not empty.");
+            return;
+        }
+        const std::size_t size = text_of(file, shown).size();
+        want(size == 0, shown, "has " + std::to_string(size) + " bytes, expected none.");
+    };
 }
 
 Check check_of(const Arguments& arguments) {
@@ -148,7 +156,7 @@ Check check_of(const Arguments& arguments) {
 Step file_step(const Arguments& arguments) {
     const Check check = check_of(arguments);
     return {{}, Works::always, false, [path = arguments.text(0), check](Stage& stage) {
-                check(stage.host_path(path), in_quotes(path));
+                check(stage.host_path(path), to_utf8(path));
             }};
 }
 

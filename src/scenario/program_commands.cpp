@@ -29,13 +29,12 @@ std::function<void(Stage&)> open_act(const Arguments& arguments) {
 
 std::function<void(Stage&)> set_act(const Arguments& arguments) {
     arguments.want(2);
-    const std::string path =
-        arguments.field(0, {panel, label, text_box, button, tick_box, option, pick_list,
-                            folder_list, menu_entry, data_source});
+    const std::string path = arguments.field(0, {panel, label, text_box, button, tick_box, option,
+                                                 pick_list, folder_list, menu_entry, data_source});
     const std::string& text = arguments.text(1);
     const FieldKind kind = kind_of(path);
     if ((kind == tick_box || kind == option) && text != "0" && text != "1") {
-        throw WrongLine("A " + std::string(name_of(kind)) + " is set to 0 or 1.");
+        throw WrongLine(path + " is set to 0 or 1.");
     }
     return [path, text](Stage& stage) { set_field(stage.field(path), text); };
 }

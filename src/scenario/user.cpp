@@ -28,7 +28,9 @@ Key take_named_key(std::string_view& text) {
         text.remove_prefix(name.size());
         return key;
     }
-    throw WrongLine("There is no key " + in_quotes(text.substr(0, text.find('}') + 1)) + ".");
+    const std::size_t end = text.find('}');
+    const std::string_view name = end == std::string_view::npos ? text : text.substr(0, end + 1);
+    throw WrongLine("There is no key " + in_quotes(name) + ".");
 }
 
 }  // namespace

@@ -30,8 +30,7 @@ inline std::uint64_t delimiter_mask_anywhere(const char* bytes) {
         for (unsigned i = 0; i < 8; ++i) {
             eight |= std::uint64_t{static_cast<unsigned char>(bytes[8 * group + i])} << (8 * i);
         }
-        const std::uint64_t folded =
-            (eight & ~(every_byte * differing_bit)) ^ (every_byte * '\t');
+        const std::uint64_t folded = (eight & ~(every_byte * differing_bit)) ^ (every_byte * '\t');
         const std::uint64_t zeros = ~(((folded & low_bits) + low_bits) | folded | low_bits);
         mask |= (((zeros >> 7U) * gather_bits) >> 56U) << (8 * group);
     }

@@ -9,9 +9,9 @@ namespace brooklander {
 
 std::string_view name_of(FieldKind kind) {
     constexpr std::array<std::string_view, 15> names{
-        "screen", "panel",      "label",       "text box",  "button",
-        "tick box", "option",   "list",        "pick list", "drive list",
-        "folder list", "file list", "menu entry", "grid",   "data source"};
+        "screen",      "panel",     "label",      "text box",  "button",
+        "tick box",    "option",    "list",       "pick list", "drive list",
+        "folder list", "file list", "menu entry", "grid",      "data source"};
     return names[static_cast<std::size_t>(kind)];
 }
 

@@ -40,7 +40,7 @@ void TextBox::press_keys(const std::vector<Key>& keys) {
         switch (key.name) {
             case Key::Name::character:
                 if (typing_.most > 0 && text().size() >= typing_.most) break;
-                set_text(before + key.character + behind);
+                set_text(std::string(before).append(1, key.character).append(behind));
                 ++caret;
                 break;
             case Key::Name::backspace:
@@ -54,17 +54,14 @@ void TextBox::press_keys(const std::vector<Key>& keys) {
             case Key::Name::left:
                 if (caret > 0) --caret;
                 break;
-            case Key::Name::right:
-                ++caret;
-                break;
+            case Key::Name::right: ++caret; break;
             case Key::Name::enter:
                 if (enter_presses != nullptr && enter_presses->usable()) enter_presses->press();
                 break;
             case Key::Name::up:
             case Key::Name::down:
             case Key::Name::tab:
-            case Key::Name::escape:
-                break;
+            case Key::Name::escape: break;
         }
     }
 }

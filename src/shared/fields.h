@@ -27,8 +27,7 @@ class PlacedField : public Field {
 // A part of a screen with a title, which may be empty.
 class Panel : public PlacedField {
   public:
-    Panel(Field& container, std::string_view name, std::string_view title = {},
-          Start start = shown)
+    Panel(Field& container, std::string_view name, std::string_view title = {}, Start start = shown)
         : PlacedField(FieldKind::panel, container, name, title, start) {}
 };
 

@@ -52,8 +52,8 @@ void Grid::load(FileText text) {
 }
 
 void Grid::make_current(GridCell cell) {
-    const bool inside = cell.row >= 0 && cell.row < rows() && cell.column >= 0 &&
-                        cell.column < columns();
+    const bool inside =
+        cell.row >= 0 && cell.row < rows() && cell.column >= 0 && cell.column < columns();
     if (!inside) {
         throw FatalFailure("The table has no cell in row " + std::to_string(cell.row + 1) +
                            ", column " + std::to_string(cell.column + 1) + ".");

@@ -46,8 +46,8 @@ class Grid : public PlacedField {
           fixed_rows_(shape.fixed_rows),
           fixed_columns_(shape.fixed_columns) {}
 
-    std::function<void()> on_click;        // the clicked cell is the current one
-    std::function<void(Key)> on_key;       // in grids that are typed into; then keys do nothing else
+    std::function<void()> on_click;   // the clicked cell is the current one
+    std::function<void(Key)> on_key;  // in grids that are typed into; then keys do nothing else
 
     // Reading. A cell outside the grid reads empty; texts live until the grid changes.
     int rows() const { return cells_.rows(); }
@@ -73,9 +73,7 @@ class Grid : public PlacedField {
     GridCell current() const { return current_; }
     void make_current(GridCell cell);
     std::string_view current_text() const { return cell(current_.row, current_.column); }
-    void set_current_text(std::string_view text) {
-        set_cell(current_.row, current_.column, text);
-    }
+    void set_current_text(std::string_view text) { set_cell(current_.row, current_.column, text); }
 
     int fixed_rows() const { return fixed_rows_; }
     int fixed_columns() const { return fixed_columns_; }

@@ -85,10 +85,8 @@ std::optional<std::size_t> FolderList::find(std::string_view text) const {
 }
 
 void FileList::set_path(std::string_view path) {
-    const std::string target = files().full_path(path);
-    std::vector<std::string> names = files().files_in(target, pattern_);
-    path_ = target;
-    show_files(std::move(names));
+    path_ = files().full_path(path);
+    refresh();
 }
 
 void FileList::deselect() {
@@ -104,10 +102,6 @@ void FileList::refresh() {
     } catch (const FatalFailure&) {
         names.clear();
     }
-    show_files(std::move(names));
-}
-
-void FileList::show_files(std::vector<std::string> names) {
     set_entries(std::move(names));
     store_text({});
 }

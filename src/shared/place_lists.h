@@ -66,11 +66,11 @@ class FolderList : public PlaceList {
 // The files of a folder whose names are of a pattern, by name. Its text is the name selected.
 class FileList : public PlaceList {
   public:
-    FileList(Field& container, std::string_view name, std::string_view pattern,
-             Start start = shown)
+    FileList(Field& container, std::string_view name, std::string_view pattern, Start start = shown)
         : PlaceList(FieldKind::file_list, container, name, start), pattern_(pattern) {}
 
-    // Goes to a folder and reads it. A FatalFailure where it cannot be read.
+    // Goes to a folder and reads it. One that is not there or cannot be read shows as an empty one:
+    // what is amiss with it is told when a file in it is opened.
     void set_path(std::string_view path);
 
     // The folder's path, without a slash at its end but for a root.
@@ -83,7 +83,6 @@ class FileList : public PlaceList {
 
   private:
     void entry_selected() override;
-    void show_files(std::vector<std::string> names);
 
     std::string pattern_;
     std::string path_;

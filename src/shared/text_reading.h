@@ -36,7 +36,8 @@ class CommaItemReader {
 
     bool at_end() const { return rest_.empty() && !item_owed_; }
 
-    // The next item, without quotes, its trailing blanks kept. At the end of the text, an empty one.
+    // The next item, without quotes, its trailing blanks kept. At the end of the text, an empty
+    // one.
     std::string_view next();
 
   private:

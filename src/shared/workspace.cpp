@@ -8,9 +8,15 @@ namespace brooklander {
 namespace {
 
 // The first stands for a folder name that is never filled in; making it fails and does no harm.
-constexpr std::array<std::string_view, 9> start_up_folders{
-    "",           "organization", "gear",   "voxoutfiles",     "batchoutfiles",
-    "logoutfiles", "preferences", "person", "voxconfiguration"};
+constexpr std::array<std::string_view, 9> start_up_folders{"",
+                                                           "organization",
+                                                           "gear",
+                                                           "voxoutfiles",
+                                                           "batchoutfiles",
+                                                           "logoutfiles",
+                                                           "preferences",
+                                                           "person",
+                                                           "voxconfiguration"};
 
 template <typename Reader>
 std::vector<std::string> all_items(std::string_view text) {

@@ -42,9 +42,10 @@ TEST(Conversion, AgreesWithThePlainOneOnEveryTable) {
     const auto below = [&random](int bound) {
         return static_cast<int>(random() % static_cast<unsigned>(bound));
     };
-    const std::vector<std::string> texts{"",    "",     " ",   "930", "0930", " 93", "ND", " nd ",
-                                         "<1",  "5>",   ">5",  "7.4", " x ",  "a~b", "<",  "1 2",
-                                         "*Non-detect ", "a longer text than a block takes"};
+    const std::vector<std::string> texts{
+        "",    "",     " ",  "930", "0930",         " 93",
+        "ND",  " nd ", "<1", "5>",  ">5",           "7.4",
+        " x ", "a~b",  "<",  "1 2", "*Non-detect ", "a longer text than a block takes"};
     for (int round = 0; round < 300; ++round) {
         test::PlainInputs inputs;
         const int columns = FrmImportFileDisplay::table_columns;
@@ -81,30 +82,31 @@ TEST(Conversion, AgreesWithThePlainOneOnEveryTable) {
         TestProgram program;
         program.view(file);
         program.go_to_columns();
-        FrmImportFileDisplay& import = program.import_screen();
+        FrmImportFileDisplay& display = program.import_screen();
         const auto set = [](Label& label, std::optional<int> column) {
             label.set_text(column ? std::to_string(*column) : "");
         };
-        set(import.lblStation, inputs.station);
-        set(import.lblDate, inputs.date);
-        set(import.lblTime, inputs.time);
-        set(import.lblSample, inputs.sample);
-        set(import.lblDepth, inputs.depth);
-        set(import.lblComments, inputs.comments);
-        set(import.lblPerson, inputs.person);
-        set(import.lblColumn, inputs.first_result);
-        set(import.lblRow, inputs.first_row);
-        import.txtActivityID.set_text(inputs.filler);
+        set(display.lblStation, inputs.station);
+        set(display.lblDate, inputs.date);
+        set(display.lblTime, inputs.time);
+        set(display.lblSample, inputs.sample);
+        set(display.lblDepth, inputs.depth);
+        set(display.lblComments, inputs.comments);
+        set(display.lblPerson, inputs.person);
+        set(display.lblColumn, inputs.first_result);
+        set(display.lblRow, inputs.first_row);
+        display.txtActivityID.set_text(inputs.filler);
         program.screens().frmPreferences.lblDepthUnits.set_text(inputs.depth_unit);
         program.screens().frmPreferences.lblTrip.set_text(inputs.trip);
-        if (rows > 0) import.cmdFormatConfirm.press();
+        if (rows > 0) display.cmdFormatConfirm.press();
 
         const test::PlainResult expected = test::convert_plainly(inputs);
         ASSERT_EQ(program.output(), expected.output) << "round " << round;
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
                 const auto& cells = expected.table[static_cast<std::size_t>(row)];
-                ASSERT_EQ(program.table().cell(row, column), cells[static_cast<std::size_t>(column)])
+                ASSERT_EQ(program.table().cell(row, column),
+                          cells[static_cast<std::size_t>(column)])
                     << "round " << round << " cell " << row << " " << column;
             }
         }
@@ -133,8 +135,9 @@ TEST_F(ConversionUnderAConfiguration, AFirstFailureRestartsThePassAndTheSecondIs
     for (int i = 0; i < 49; ++i) defaults += defaults_line("N" + std::to_string(i));
     prepare("Station\tDate\tA\tB\r\nS1\tD1\t1\t<2\r\nS2\tD2\t3\t4\r\n", defaults);
     EXPECT_THROW(program_.convert(1), FatalFailure);
-    const std::string row_one = "~S1~~D1~~~-1~~~~~~~~~~~~~N0~~~~~~~~~~1~~~\r\n"
-                                "~S1~~D1~~~-1~~~~~~~~~~~~~N1~~~~~~~~~~*Non-detect~~~\r\n";
+    const std::string row_one =
+        "~S1~~D1~~~-1~~~~~~~~~~~~~N0~~~~~~~~~~1~~~\r\n"
+        "~S1~~D1~~~-1~~~~~~~~~~~~~N1~~~~~~~~~~*Non-detect~~~\r\n";
     EXPECT_EQ(program_.output(), row_one + row_one);
     EXPECT_EQ(program_.table().cell(1, 3), "*Non-detect");
     EXPECT_EQ(program_.table().cell(2, 3), "4");
@@ -158,8 +161,8 @@ TEST_F(ConversionUnderAConfiguration, ARestartedPassWritesWhatTheRowsHeldBeforeT
     EXPECT_TRUE(import_.frameConverted.visible());
 
     const auto line = [](int row, const std::string& name) {
-        return "~S~~<" + std::to_string(row) + "~~~-" + std::to_string(row) +
-               "~nd~~~~~~~~~~~~" + name + "~~~~~~~~~~*Non-detect~~~\r\n";
+        return "~S~~<" + std::to_string(row) + "~~~-" + std::to_string(row) + "~nd~~~~~~~~~~~~" +
+               name + "~~~~~~~~~~*Non-detect~~~\r\n";
     };
     std::string whole_pass;
     for (int row = 1; row <= 30000; ++row) whole_pass += line(row, "N0") + line(row, "N1");
@@ -265,8 +268,8 @@ TEST_F(ConversionForTheModule, AFieldOfTenMegabytesIsWrittenWhole) {
                "~~~~~~~~~~~~~" + (result % 2 == 1 ? "A" : "B") + "~~~~~~~~~~" +
                std::to_string(result) + "~~~\r\n";
     };
-    EXPECT_TRUE(program_.output() == line(station, 1, 1) + line(station, 1, 2) + line("S2", 2, 3) +
-                                         line("S2", 2, 4));
+    EXPECT_TRUE(program_.output() ==
+                line(station, 1, 1) + line(station, 1, 2) + line("S2", 2, 3) + line("S2", 2, 4));
 }
 
 }  // namespace

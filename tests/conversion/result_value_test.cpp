@@ -22,8 +22,8 @@ TEST(ResultValue, AMarkOfPresenceCountsAtTheEndAlone) {
 }
 
 TEST(ResultValue, EverythingElseStaysAndIsWrittenTrimmed) {
-    for (const std::string_view cell :
-         {"Nd", "nD", " <5 ", "7.4", "  7.4 ", "*non-detect", "5<5", "N D", "NDx", "*Present >QL!"}) {
+    for (const std::string_view cell : {"Nd", "nD", " <5 ", "7.4", "  7.4 ", "*non-detect", "5<5",
+                                        "N D", "NDx", "*Present >QL!"}) {
         EXPECT_EQ(result_value(cell).cell.data(), cell.data()) << cell;
         EXPECT_EQ(result_value(cell).written, trim(cell)) << cell;
     }

@@ -13,7 +13,9 @@ TEST(CodePage, EveryByteSurvivesTheWayToUtf8AndBack) {
 
 TEST(CodePage, LettersAndMarksAreThoseOfWindows) {
     EXPECT_EQ(to_utf8("\xE9\xB5\x80\x96"), "é\u00B5€–");
-    EXPECT_EQ(from_utf8("Montréal – 5 µg"), "Montr\xE9" "al \x96 5 \xB5g");
+    EXPECT_EQ(from_utf8("Montréal – 5 µg"),
+              "Montr\xE9"
+              "al \x96 5 \xB5g");
 }
 
 TEST(CodePage, WhatItLacksAndWhatIsNoUtf8IsRefused) {
@@ -28,7 +30,10 @@ TEST(CodePage, WhatItLacksAndWhatIsNoUtf8IsRefused) {
 
 TEST(CodePage, CapitalsCoverTheCodePagesLetters) {
     EXPECT_EQ(upper("abcz \xE0\xFE\xFF\x9A\x9C\x9E"), "ABCZ \xC0\xDE\x9F\x8A\x8C\x8E");
-    EXPECT_EQ(upper("\xF7\xD7\xDF\xB5\x83" "1~"), "\xF7\xD7\xDF\xB5\x83" "1~");
+    EXPECT_EQ(upper("\xF7\xD7\xDF\xB5\x83"
+                    "1~"),
+              "\xF7\xD7\xDF\xB5\x83"
+              "1~");
     EXPECT_TRUE(same_but_for_case("\xC9t\xE9.TXT", "\xE9T\xC9.txt"));
     EXPECT_FALSE(same_but_for_case("a", "ab"));
 }

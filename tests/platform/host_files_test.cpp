@@ -66,10 +66,13 @@ TEST_F(HostFileRules, OpeningForOutputOverwritesAFileOfAnotherCase) {
 
 TEST_F(HostFileRules, LettersOfTheCodePageInNamesAreUtf8OnTheHost) {
     folder_.write("Montréal/été.txt", "x");
-    EXPECT_EQ(read("c:\\montr\xC9" "al\\\xC9T\xC9.TXT"), "x");
+    EXPECT_EQ(read("c:\\montr\xC9"
+                   "al\\\xC9T\xC9.TXT"),
+              "x");
     write("c:\\\xFC.txt", "y");
     EXPECT_EQ(folder_.read("ü.txt"), "y");
-    EXPECT_EQ(files_.folders_in("c:\\"), (Names{"Montr\xE9" "al"}));
+    EXPECT_EQ(files_.folders_in("c:\\"), (Names{"Montr\xE9"
+                                                "al"}));
 }
 
 TEST_F(HostFileRules, NamesOutsideTheCodePageAndHiddenFoldersAreNotListed) {

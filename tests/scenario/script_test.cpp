@@ -71,18 +71,36 @@ TEST(Script, AWrongLineIsToldWithItsPlaceAndItsReason) {
 }
 
 TEST(Script, WhatALineAloneCanTellIsToldBeforeAnythingRuns) {
-    for (const std::string_view line :
-         {"type frmStart.cmdView x", "type frmStart.txtOracleID \"a\\tb\"", "refused start",
-          "refused", "force expect frmStart.cmdView seen", "open frmStart.cmdView",
-          "set frmStart.chkPreferences 2", "set frmStart.lstImportFileBox x",
-          "add frmStart.lblSelectedFile x", "expect frmStart.cmdView", "expect frmStart enabled",
-          "expect frmStart.cmdView value 1", "expect frmStart.chkPreferences value 2",
-          "expect frmStart.cmdView rows 1", "expect frmStart.cmdView shiny",
-          "expect frmImportFileDisplay.MSFlexKeldarIN selection cell",
-          "expect frmImportFileDisplay.MSFlexKeldarIN text x", "expect frmStart pointer arrow",
-          "file c:\\a", "file c:\\a shines", "file c:\\a lines x", "file c:\\a line 0 x",
-          "file c:\\a holds", "shot a/b", "print", "include", "copy a", "write c:\\a",
-          "keys frmStart.txtOracleID {F1}", "select frmStart.Dir1"}) {
+    for (const std::string_view line : {"type frmStart.cmdView x",
+                                        "type frmStart.txtOracleID \"a\\tb\"",
+                                        "refused start",
+                                        "refused",
+                                        "force expect frmStart.cmdView seen",
+                                        "open frmStart.cmdView",
+                                        "set frmStart.chkPreferences 2",
+                                        "set frmStart.lstImportFileBox x",
+                                        "add frmStart.lblSelectedFile x",
+                                        "expect frmStart.cmdView",
+                                        "expect frmStart enabled",
+                                        "expect frmStart.cmdView value 1",
+                                        "expect frmStart.chkPreferences value 2",
+                                        "expect frmStart.cmdView rows 1",
+                                        "expect frmStart.cmdView shiny",
+                                        "expect frmImportFileDisplay.MSFlexKeldarIN selection cell",
+                                        "expect frmImportFileDisplay.MSFlexKeldarIN text x",
+                                        "expect frmStart pointer arrow",
+                                        "file c:\\a",
+                                        "file c:\\a shines",
+                                        "file c:\\a lines x",
+                                        "file c:\\a line 0 x",
+                                        "file c:\\a holds",
+                                        "shot a/b",
+                                        "print",
+                                        "include",
+                                        "copy a",
+                                        "write c:\\a",
+                                        "keys frmStart.txtOracleID {F1}",
+                                        "select frmStart.Dir1"}) {
         EXPECT_EQ(reading_of(line).substr(0, 12), "here.scn:1: ") << line << reading_of(line);
     }
 }

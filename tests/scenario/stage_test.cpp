@@ -13,7 +13,8 @@ class Playing : public testing::Test {
     // What the playing of a text ends in: nothing, or the sentence of what failed.
     std::string play(const std::string& text) {
         try {
-            Stage stage(folder_.path(), [this](const std::string& line) { output_ += line + "\n"; });
+            Stage stage(folder_.path(),
+                        [this](const std::string& line) { output_ += line + "\n"; });
             stage.play(read_script_text(text, folder_.path() / "here.scn", {}));
             return "";
         } catch (const Unmet& unmet) {
@@ -39,8 +40,8 @@ TEST_F(Playing, OnlyFilesWorkBeforeTheStart) {
 
 TEST_F(Playing, AfterItsEndTheProgramCanBeStartedAfreshAndNothingElse) {
     const std::string quit = "click frmStart.mnuExit\nclick frmStart.cmdYes\nended\n";
-    EXPECT_EQ(play_started("set frmStart.mnuFiles x\nforce " + quit + "file c:\\brooklander exists"),
-              "");
+    EXPECT_EQ(
+        play_started("set frmStart.mnuFiles x\nforce " + quit + "file c:\\brooklander exists"), "");
     EXPECT_EQ(play_started("force " + quit + "expect frmStart.cmdView seen"),
               "here.scn:6: The program has ended.");
     EXPECT_EQ(play_started("force " + quit + "start\nexpect frmStart.frameOracleLogon seen"), "");
@@ -50,9 +51,10 @@ TEST_F(Playing, AfterItsEndTheProgramCanBeStartedAfreshAndNothingElse) {
 
 TEST_F(Playing, AFatalFailureWantsAFatalBehindIt) {
     EXPECT_EQ(play("start\nfatal\nmake c:\\brooklander\nstart\nexpect frmStart seen"), "");
-    EXPECT_EQ(play("remove c:\\brooklander\nstart"),
-              "here.scn:2: The program ended in a fatal failure: \"c:\\brooklander\" cannot be made "
-              "the current directory: No such file or directory.");
+    EXPECT_EQ(
+        play("remove c:\\brooklander\nstart"),
+        "here.scn:2: The program ended in a fatal failure: \"c:\\brooklander\" cannot be made "
+        "the current directory: No such file or directory.");
     EXPECT_EQ(play("start\nfile c:\\x missing\nfatal").substr(0, 12), "here.scn:1: ");
     EXPECT_EQ(play_started("fatal"),
               "here.scn:3: The command before it did not end in a fatal failure.");
@@ -103,24 +105,35 @@ TEST_F(Playing, AnExpectationSaysWhatWasExpectedAndWhatWasFound) {
 TEST_F(Playing, FilesAreHeldAgainstTheirLines) {
     folder_.write("other", "one\r\ntwo\r\n");
     const std::string file = "write c:\\a \"one\\r\\ntwo\\r\\n\"\n";
-    EXPECT_EQ(play(file + "file c:\\A lines 2\nfile c:\\a line 2 two\nfile c:\\a holds e\\r\n"
-                          "file c:\\a holds \"e\\r\\nt\"\nfile c:\\a lacks x\nfile c:\\a same other"),
-              "here.scn:4: \"c:\\\\a\" lacks \"e\\\\r\".");
-    EXPECT_EQ(play(file + "file c:\\a lines 3"),
-              "here.scn:2: \"c:\\\\a\" has 2 lines, expected 3.");
+    EXPECT_EQ(
+        play(file + "file c:\\A lines 2\nfile c:\\a line 2 two\nfile c:\\a holds e\\r\n"
+                    "file c:\\a holds \"e\\r\\nt\"\nfile c:\\a lacks x\nfile c:\\a same other"),
+        "here.scn:4: \"c:\\a\" lacks \"e\\\\r\".");
+    EXPECT_EQ(play(file + "file c:\\a lines 3"), "here.scn:2: \"c:\\a\" has 2 lines, expected 3.");
     EXPECT_EQ(play(file + "file c:\\a line 3 x"),
-              "here.scn:2: \"c:\\\\a\" has 2 lines, expected a line 3.");
+              "here.scn:2: \"c:\\a\" has 2 lines, expected a line 3.");
     EXPECT_EQ(play(file + "file c:\\a line 1 x"),
-              "here.scn:2: \"c:\\\\a\" line 1: expected \"x\", found \"one\".");
+              "here.scn:2: \"c:\\a\" line 1: expected \"x\", found \"one\".");
     EXPECT_EQ(play("write c:\\a \"one\\r\\ntwo\"\nfile c:\\a lines 2"),
-              "here.scn:2: \"c:\\\\a\" has a line 2 that carriage return and line feed do not "
+              "here.scn:2: \"c:\\a\" has a line 2 that carriage return and line feed do not "
               "end.");
     EXPECT_EQ(play("write c:\\a \"one\\r\\ntwX\\r\\n\"\nfile c:\\a same other"),
-              "here.scn:2: \"c:\\\\a\" differs in line 2: expected \"two\\r\", found \"twX\\r\".");
+              "here.scn:2: \"c:\\a\" differs in line 2: expected \"two\\r\", found \"twX\\r\".");
     EXPECT_EQ(play("write c:\\a \"\"\nfile c:\\a empty\nfile c:\\a lines 0\nremove c:\\a\n"
                    "file c:\\a missing\nfile c:\\a empty")
                   .substr(0, 11),
               "here.scn:6:");
+}
+
+TEST_F(Playing, AFolderWithoutAnythingInItIsEmpty) {
+    EXPECT_EQ(play("make c:\\a\\b\nfile c:\\a\\b empty\nfile c:\\a empty"),
+              "here.scn:3: \"c:\\a\" is a folder that is not empty.");
+}
+
+TEST_F(Playing, AMaskedTextIsNotTold) {
+    EXPECT_EQ(play_started("type frmStart.txtOraclePassWord geheim\n"
+                           "expect frmStart.txtOraclePassWord text offen"),
+              "here.scn:4: frmStart.txtOraclePassWord: expected \"offen\", found \"******\".");
 }
 
 TEST_F(Playing, FoldersAreMadeAndRemovedWithAllThatIsInThemButNeverADrive) {
@@ -133,27 +146,30 @@ TEST_F(Playing, FoldersAreMadeAndRemovedWithAllThatIsInThemButNeverADrive) {
 }
 
 TEST_F(Playing, PrintingTellsAllThatAFieldHolds) {
-    EXPECT_EQ(play_started("set frmStart.txtOraclePassWord geheim\nprint frmStart.txtOraclePassWord\n"
-                           "print frmStart.optLogYes\nprint frmStart.Drive1\n"
-                           "add frmImportFileDisplay.MSFlexResults \"\xC3\xA9\\tb\"\n"
-                           "print frmImportFileDisplay.MSFlexResults"),
-              "");
-    EXPECT_EQ(output_,
-              R"({"field":"frmStart.txtOraclePassWord","kind":"text box","visible":true,"enabled":true,"seen":true,"text":"******"})"
-              "\n"
-              R"({"field":"frmStart.optLogYes","kind":"option","visible":true,"enabled":true,"seen":false,"text":"Yes","value":0})"
-              "\n"
-              R"({"field":"frmStart.Drive1","kind":"drive list","visible":true,"enabled":true,"seen":false,"text":"c:","entries":["c:","z:"],"selected":null})"
-              "\n"
-              R"({"field":"frmImportFileDisplay.MSFlexResults","kind":"grid","visible":false,"enabled":true,"seen":false,"rows":[["é","b"]],"columns":2,"current":[0,0]})"
-              "\n");
+    EXPECT_EQ(
+        play_started("set frmStart.txtOraclePassWord geheim\nprint frmStart.txtOraclePassWord\n"
+                     "print frmStart.optLogYes\nprint frmStart.Drive1\n"
+                     "add frmImportFileDisplay.MSFlexResults \"\xC3\xA9\\tb\"\n"
+                     "print frmImportFileDisplay.MSFlexResults"),
+        "");
+    EXPECT_EQ(
+        output_,
+        R"({"field":"frmStart.txtOraclePassWord","kind":"text box","visible":true,"enabled":true,"seen":true,"text":"******"})"
+        "\n"
+        R"({"field":"frmStart.optLogYes","kind":"option","visible":true,"enabled":true,"seen":false,"text":"Yes","value":0})"
+        "\n"
+        R"({"field":"frmStart.Drive1","kind":"drive list","visible":true,"enabled":true,"seen":false,"text":"c:","entries":["c:","z:"],"selected":null})"
+        "\n"
+        R"({"field":"frmImportFileDisplay.MSFlexResults","kind":"grid","visible":false,"enabled":true,"seen":false,"rows":[["é","b"]],"columns":2,"current":[0,0]})"
+        "\n");
 }
 
 TEST_F(Playing, PrintingAScreenTellsEachOfItsFields) {
     EXPECT_EQ(play_started("print frmPreferencesSampleOption"), "");
-    EXPECT_EQ(output_,
-              R"({"field":"frmPreferencesSampleOption.chkChar","kind":"tick box","visible":true,"enabled":true,"seen":false,"text":"Characteristics","value":0})"
-              "\n");
+    EXPECT_EQ(
+        output_,
+        R"({"field":"frmPreferencesSampleOption.chkChar","kind":"tick box","visible":true,"enabled":true,"seen":false,"text":"Characteristics","value":0})"
+        "\n");
 }
 
 TEST_F(Playing, TheProgramsOwnStepsCanBeDoneFromOutside) {

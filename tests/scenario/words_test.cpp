@@ -25,8 +25,7 @@ TEST(ScenarioWords, ANumberSignInFirstPlaceMakesALineARemark) {
 }
 
 TEST(ScenarioWords, AQuotedWordMayHoldBlanksAndEscapes) {
-    EXPECT_EQ(cut(R"("a b" "" "\"\\\t\r\n\x41\xe9\$")"),
-              (Words{"a b", "", "\"\\\t\r\nA\xE9$"}));
+    EXPECT_EQ(cut(R"("a b" "" "\"\\\t\r\n\x41\xe9\$")"), (Words{"a b", "", "\"\\\t\r\nA\xE9$"}));
 }
 
 TEST(ScenarioWords, OutsideQuotesABackslashIsOrdinary) {
@@ -45,9 +44,8 @@ TEST(ScenarioWords, TextsAreCarriedIntoTheCodePage) {
 }
 
 TEST(ScenarioWords, WhatIsNoWordIsToldWithItsReason) {
-    for (const std::string_view line :
-         {"\"a", "\"a\\", "\"a\\q\"", "\"\\x4\"", "\"\\xg1\"", "a\"b", "\"a\"b", "${NONE}", "${FILE",
-          "\"${FILE\""}) {
+    for (const std::string_view line : {"\"a", "\"a\\", "\"a\\q\"", "\"\\x4\"", "\"\\xg1\"", "a\"b",
+                                        "\"a\"b", "${NONE}", "${FILE", "\"${FILE\""}) {
         EXPECT_THROW(cut(line), WrongLine) << line;
     }
 }
@@ -59,8 +57,17 @@ TEST(ScenarioWords, AMessageShowsWhatDoesNotPrint) {
 TEST(ScenarioKeys, NamedKeysStandInBraces) {
     using enum Key::Name;
     EXPECT_EQ(keys_in("a{Enter}{Delete}{Backspace}{Up}{Down}{Left}{Right}{Tab}{Escape}{Space}"),
-              (std::vector<Key>{Key::of('a'), {enter}, {erase}, {backspace}, {up}, {down}, {left},
-                                {right}, {tab}, {escape}, Key::of(' ')}));
+              (std::vector<Key>{Key::of('a'),
+                                {enter},
+                                {erase},
+                                {backspace},
+                                {up},
+                                {down},
+                                {left},
+                                {right},
+                                {tab},
+                                {escape},
+                                Key::of(' ')}));
     EXPECT_THROW(keys_in("{enter}"), WrongLine);
     EXPECT_THROW(keys_in("{"), WrongLine);
     EXPECT_THROW(keys_in("a\tb"), WrongLine);

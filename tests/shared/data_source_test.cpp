@@ -69,7 +69,7 @@ TEST_F(DataSourceRules, ListedColumnsComeFirstAndTheOthersFollowHidden) {
 }
 
 TEST_F(DataSourceRules, AGridWithoutHeadingTakesRowZeroForDataAndHasNoRowWithoutData) {
-    database_.answer.columns = {"0", "1", "2", "3", "4", "5", "6", "row", "uom", "frac",
+    database_.answer.columns = {"0",  "1",  "2",  "3",  "4",  "5",  "6",  "row",  "uom", "frac",
                                 "10", "11", "12", "13", "14", "15", "16", "name", "18"};
     source_.bind(grid_, bound::group_contents);
     source_.refresh(database_);

@@ -185,8 +185,18 @@ TEST_F(TextBoxes, AHandlerThatChangesItsOwnBoxRunsOnceMoreAndEnds) {
 TEST_F(TextBoxes, KeysWorkFromTheTextsEnd) {
     using enum Key::Name;
     screen_.txtText.set_text("abc");
-    screen_.txtText.press_keys({{left}, {left}, {erase}, Key::of('X'), {right}, {right}, {right},
-                                {erase}, {backspace}, {up}, {tab}, {escape}});
+    screen_.txtText.press_keys({{left},
+                                {left},
+                                {erase},
+                                Key::of('X'),
+                                {right},
+                                {right},
+                                {right},
+                                {erase},
+                                {backspace},
+                                {up},
+                                {tab},
+                                {escape}});
     EXPECT_EQ(screen_.txtText.text(), "aX");
 }
 

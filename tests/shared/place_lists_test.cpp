@@ -112,7 +112,9 @@ TEST_F(PlaceLists, AFolderThatHasGoneShowsAsAnEmptyOne) {
     folders_.refresh();
     EXPECT_EQ(files_.count(), 0U);
     EXPECT_EQ(folders_.entries(), (Names{"c:\\", "data"}));
-    EXPECT_THROW(files_.set_path("c:\\data"), FatalFailure);
+    files_.set_path("c:\\data\\lakes");
+    EXPECT_EQ(files_.path(), "c:\\data\\lakes");
+    EXPECT_EQ(files_.count(), 0U);
 }
 
 TEST_F(PlaceLists, AChoiceOfADriveRunsTheHandlerEveryTime) {

@@ -54,8 +54,8 @@ std::string line_of(const std::array<std::string_view, defaults_fields.size()>& 
 
 TEST(DefaultsLine, EveryValueThatFitsItsCutComesBackFromAConversion) {
     const std::string line =
-        line_of({"Phosphorus as P", "SRC", "4500-P-E", "mg/l", "Dissolved", "Actual", "Mean",
-                 "Dry", "20 Deg C", "24 Hours", "LAB1", "0.01", "mg/l"});
+        line_of({"Phosphorus as P", "SRC", "4500-P-E", "mg/l", "Dissolved", "Actual", "Mean", "Dry",
+                 "20 Deg C", "24 Hours", "LAB1", "0.01", "mg/l"});
     EXPECT_EQ(conversion_value(line, 0), "Phosphorus as P");
     EXPECT_EQ(conversion_value(line, 1), "SRC");
     EXPECT_EQ(conversion_value(line, 2), "4500-P-E");
@@ -72,8 +72,8 @@ TEST(DefaultsLine, EveryValueThatFitsItsCutComesBackFromAConversion) {
 }
 
 TEST(DefaultsLine, ASourceOfFullWidthLeaksIntoTheProcedure) {
-    const std::string line = line_of({"Name", "SOURCE-OF-14-B", "PROC", "", "", "", "", "", "", "",
-                                      "", "", ""});
+    const std::string line =
+        line_of({"Name", "SOURCE-OF-14-B", "PROC", "", "", "", "", "", "", "", "", "", ""});
     EXPECT_EQ(conversion_value(line, 1), "SOURCE-OF-14-B");
     EXPECT_EQ(conversion_value(line, 2), "-BPROC");
     EXPECT_EQ(defaults_fields[1].for_display.of(line), "SOURCE-OF-1");
@@ -87,8 +87,8 @@ TEST(DefaultsLine, AProcedureOfFullWidthLosesItsLastTwoInAConversionAndOneOnTheS
 }
 
 TEST(DefaultsLine, AConversionKeepsMoreOfDurationAndUnitThanTheScreen) {
-    const std::string line = line_of({"N", "", "", "", "", "", "", "", "", "0123456789", "L", "",
-                                      "ABCDEFGHIJKL"});
+    const std::string line =
+        line_of({"N", "", "", "", "", "", "", "", "", "0123456789", "L", "", "ABCDEFGHIJKL"});
     EXPECT_EQ(conversion_value(line, 9), "0123456789");
     EXPECT_EQ(defaults_fields[9].for_display.of(line), "012345678");
     EXPECT_EQ(conversion_value(line, 12), "ABCDEFGHIJKL");

@@ -159,7 +159,9 @@ TEST(TextGrid, BehavesLikeATableOfStrings) {
             case 0: {
                 const std::string loaded = "a\tbb\tccc\r\n\r\nx\ty\tz\t1\t2\t3\r\nlast";
                 grid.load(FileText(loaded));
-                model = {{"a", "bb", "ccc", "", ""}, Row(columns), {"x", "y", "z", "1", "2"},
+                model = {{"a", "bb", "ccc", "", ""},
+                         Row(columns),
+                         {"x", "y", "z", "1", "2"},
                          {"last", "", "", "", ""}};
                 break;
             }
@@ -184,7 +186,8 @@ TEST(TextGrid, BehavesLikeATableOfStrings) {
             RowCells cells;
             grid.read_row(r, cells);
             for (int c = 0; c < columns; ++c) {
-                const auto& expected = model[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
+                const auto& expected =
+                    model[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
                 ASSERT_EQ(grid.cell(r, c), expected);
                 ASSERT_EQ(cells[c], expected);
             }

@@ -50,8 +50,8 @@ TEST_F(ReferenceListFiles, AllFourComeFromTheRoot) {
     test_.folder.write("brooklander/temperature.txt", "20 Deg C\r\n");
     test::FrmTest& screen = test_.screen;
     test::FrmTest other(test_.desk, "frmOther");
-    read_reference_lists(test_.files, {screen.lstEntries, screen.cmbEntries, other.lstEntries,
-                                       other.cmbEntries});
+    read_reference_lists(
+        test_.files, {screen.lstEntries, screen.cmbEntries, other.lstEntries, other.cmbEntries});
     EXPECT_EQ(screen.lstEntries.entries(), (Entries{"Total", "Dissolved"}));
     EXPECT_EQ(screen.cmbEntries.entries(), (Entries{"Mean,Mode"}));
     EXPECT_EQ(other.lstEntries.entries(), (Entries{"24 Hours"}));

@@ -10,8 +10,7 @@
 namespace brooklander::test {
 
 struct FrmTest : Screen {
-    explicit FrmTest(Desk& desk, std::string_view name = "frmTest")
-        : Screen(desk, name, "Test") {}
+    explicit FrmTest(Desk& desk, std::string_view name = "frmTest") : Screen(desk, name, "Test") {}
 
     MenuEntry mnuFiles{*this, "mnuFiles", "Files"};
     MenuEntry mnuOpen{mnuFiles, "mnuOpen", "Open"};
