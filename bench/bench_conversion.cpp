@@ -34,27 +34,31 @@ constexpr int rounds = 5;
 constexpr const char* memory_option = "--memory-of";
 constexpr double mebibyte = 1024.0 * 1024.0;
 
+// In seconds; the CPU time with the kernel's share, and without it.
 struct Cost {
     double wall = 0;
     double cpu = 0;
+    double user = 0;
 };
 
-double cpu_seconds(int of_whom) {
+Cost cost_till_now(int of_whom) {
     rusage usage{};
     getrusage(of_whom, &usage);
     const auto seconds = [](const timeval& time) {
         return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
     };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+    const double user = seconds(usage.ru_utime);
+    return {0, user + seconds(usage.ru_stime), user};
 }
 
 Cost cost_of(int of_whom, const std::function<void()>& work) {
     using Clock = std::chrono::steady_clock;
-    const double cpu_before = cpu_seconds(of_whom);
+    const Cost spent = cost_till_now(of_whom);
     const auto before = Clock::now();
     work();
     const std::chrono::duration<double> wall = Clock::now() - before;
-    return {wall.count(), cpu_seconds(of_whom) - cpu_before};
+    const Cost now = cost_till_now(of_whom);
+    return {wall.count(), now.cpu - spent.cpu, now.user - spent.user};
 }
 
 void run_command(std::vector<std::string> words) {
@@ -100,17 +104,18 @@ struct Round {
     Cost copy;
 };
 
-Round measure_once(const Workplace& place) {
+Round load_and_convert(const Workplace& place) {
     Round round;
-    {
-        Road road(place.home());
-        road.up_to_view();
-        sync();
-        round.load = cost_of(RUSAGE_SELF, [&] { road.view(); });
-        road.up_to_convert();
-        round.convert = cost_of(RUSAGE_SELF, [&] { road.convert(); });
-    }
-    sync();
+    Road road(place.home());
+    road.up_to_view();
+    round.load = cost_of(RUSAGE_SELF, [&] { road.view(); });
+    road.up_to_convert();
+    round.convert = cost_of(RUSAGE_SELF, [&] { road.convert(); });
+    return round;
+}
+
+Round measure_once(const Workplace& place) {
+    Round round = load_and_convert(place);
     fs::remove(place.copy());
     round.copy = cost_of(RUSAGE_CHILDREN, [&] {
         run_command({"cp", "--reflink=never", place.output().string(), place.copy().string()});
@@ -141,8 +146,22 @@ void measure_time(const Workplace& place, int rows) {
                 static_cast<double>(fs::file_size(place.output())) / mebibyte, copy * 1e3);
     std::printf("    load %8.1f ms  %5.2f x cp   convert %8.1f ms  %5.2f x cp\n", load * 1e3,
                 load / copy, convert * 1e3, convert / copy);
-    std::printf("    both %8.1f ms  %5.2f x cp   CPU %5.2f x cp's   %6.2f us of CPU a row\n",
-                together * 1e3, together / copy, cpu / copy_cpu, cpu * 1e6 / rows);
+    std::printf("    both %8.1f ms  %5.2f x cp   CPU %5.2f x cp's\n", together * 1e3,
+                together / copy, cpu / copy_cpu);
+    std::fflush(stdout);
+}
+
+// Load and convert again and again, with nothing in between that gives memory back to the system: a
+// machine that has to fetch it from its host again makes large files dear for everyone.
+void measure_growth(const Workplace& place, int rows) {
+    fs::remove(place.copy());
+    load_and_convert(place);
+    std::vector<Round> all;
+    for (int i = 0; i < rounds; ++i) all.push_back(load_and_convert(place));
+    const double cpu = median(all, [](const Round& r) { return r.load.cpu + r.convert.cpu; });
+    const double user = median(all, [](const Round& r) { return r.load.user + r.convert.user; });
+    std::printf("    without copies in between %6.2f us of CPU a row, %5.2f us of it our own\n",
+                cpu * 1e6 / rows, user * 1e6 / rows);
     std::fflush(stdout);
 }
 
@@ -181,9 +200,11 @@ void measure(const fs::path& folder, int rows) {
     const Workplace place(folder);
     write_sample_table(place.input(), rows, Cells::as_in_life);
     measure_time(place, rows);
+    measure_growth(place, rows);
     measure_memory(place);
     write_sample_table(place.input(), rows, Cells::plain);
-    std::printf("  nothing to rewrite:\n");
+    std::printf("  without cells to rewrite:\n");
+    std::fflush(stdout);
     measure_memory(place);
 }
 
