@@ -12,6 +12,8 @@ namespace {
 
 constexpr int first_row_visited = 1;
 
+static_assert(short_text <= readable_mark, "marks are copied as blocks, like cells");
+
 }  // namespace
 
 ResultPass::ResultPass(Grid& table, const Assignment& assignment, RowFields& fields,
@@ -69,7 +71,11 @@ const BlockText& ResultPass::row_piece(int row) {
 void ResultPass::write_results(int row, const BlockText& piece) {
     int column = assignment_.first_result;
     for (const CharacteristicPieces& characteristic : characteristics_) {
-        if (column >= table_.columns()) table_.make_current({row, column});
+        if (column >= table_.columns()) {
+            throw FatalFailure("The configuration has " + std::to_string(characteristics_.size()) +
+                               " characteristics, and the table has fewer columns than that from "
+                               "the first column of results on.");
+        }
         last_cell_ = {row, column};
         const std::string_view cell = cells_[column];
         const ResultValue value = result_value(cell);

@@ -7,7 +7,8 @@
 
 namespace brooklander {
 
-// Both may be read a little further than they go, as whole blocks are when lines are written.
+// Both may be read as far as this from their start, as whole blocks are when lines are written.
+inline constexpr std::size_t readable_mark = 16;
 inline constexpr std::string_view not_detected{"*Non-detect\0\0\0\0\0", 11};
 inline constexpr std::string_view present_above_limit{"*Present >QL\0\0\0\0", 12};
 

@@ -31,17 +31,20 @@ class Output {
         }
     }
 
-    void print(std::string line) const {
+    void print(const std::string& line) const { std::cout << hidden(line) << std::endl; }
+    void tell(const std::string& line) const { std::cerr << hidden(line) << std::endl; }
+
+  private:
+    std::string hidden(std::string line) const {
         for (const std::string& secret : secrets_) {
             for (auto at = line.find(secret); at != std::string::npos;
                  at = line.find(secret, at + secret.size())) {
                 line.replace(at, secret.size(), secret.size(), '*');
             }
         }
-        std::cout << line << std::endl;
+        return line;
     }
 
-  private:
     std::vector<std::string> secrets_;
 };
 
@@ -49,7 +52,9 @@ class Output {
 int play(const std::filesystem::path& file, const Options& options, const Output& output) {
     try {
         const std::vector<Step> steps = read_script(file, options.variables);
-        Stage stage(options.home, [&output](const std::string& line) { output.print(line); });
+        Stage stage(
+            options.home, [&output](const std::string& line) { output.print(line); },
+            [&output](const std::string& sentence) { output.tell(sentence); });
         stage.play(steps);
         return all_passed;
     } catch (const WrongLine& wrong) {

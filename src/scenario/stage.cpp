@@ -7,8 +7,8 @@
 
 namespace brooklander::scenario {
 
-Stage::Stage(std::filesystem::path home, std::function<void(const std::string&)> output)
-    : home_(std::move(home)), output_(std::move(output)) {}
+Stage::Stage(std::filesystem::path home, Teller output, Teller errors)
+    : home_(std::move(home)), output_(std::move(output)), errors_(std::move(errors)) {}
 
 void Stage::play(const std::vector<Step>& steps) {
     for (const Step& step : steps) play(step);
@@ -27,6 +27,7 @@ void Stage::play(const Step& step) {
     } catch (const FatalFailure& failure) {
         running_.reset();
         fatal_ = {step.place, failure.what()};
+        errors_(failure.what());
     } catch (const Unmet& unmet) {
         throw Unmet(step.place + ": " + unmet.what());
     }

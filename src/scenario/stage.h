@@ -36,8 +36,11 @@ struct RunningProgram {
 
 class Stage {
   public:
-    // `home` stands for drive `c:`; what is printed goes to `output`, in UTF-8, a line at a time.
-    Stage(std::filesystem::path home, std::function<void(const std::string&)> output);
+    using Teller = std::function<void(const std::string&)>;
+
+    // `home` stands for drive `c:`. What is printed goes to `output`, the sentence of a fatal
+    // failure to `errors`, both in UTF-8, a line at a time.
+    Stage(std::filesystem::path home, Teller output, Teller errors);
 
     // Plays the steps of a file. Throws Unmet, with the place before its sentence, at the first
     // that fails.
@@ -63,7 +66,8 @@ class Stage {
     void fail_for_fatal() const;
 
     std::filesystem::path home_;
-    std::function<void(const std::string&)> output_;
+    Teller output_;
+    Teller errors_;
     std::unique_ptr<RunningProgram> running_;
     bool started_ = false;
     bool ended_ = false;

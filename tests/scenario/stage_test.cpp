@@ -13,8 +13,9 @@ class Playing : public testing::Test {
     // What the playing of a text ends in: nothing, or the sentence of what failed.
     std::string play(const std::string& text) {
         try {
-            Stage stage(folder_.path(),
-                        [this](const std::string& line) { output_ += line + "\n"; });
+            Stage stage(
+                folder_.path(), [this](const std::string& line) { output_ += line + "\n"; },
+                [this](const std::string& line) { errors_ += line + "\n"; });
             stage.play(read_script_text(text, folder_.path() / "here.scn", {}));
             return "";
         } catch (const Unmet& unmet) {
@@ -29,6 +30,7 @@ class Playing : public testing::Test {
 
     test::TemporaryFolder folder_;
     std::string output_;
+    std::string errors_;
 };
 
 TEST_F(Playing, OnlyFilesWorkBeforeTheStart) {
@@ -60,6 +62,13 @@ TEST_F(Playing, AFatalFailureWantsAFatalBehindIt) {
               "here.scn:3: The command before it did not end in a fatal failure.");
     EXPECT_EQ(play("remove c:\\brooklander\nstart\nfatal\nended"),
               "here.scn:4: The program has not ended by its own exit.");
+}
+
+TEST_F(Playing, TheSentenceOfAFatalFailureIsToldOnceAlsoWhenItWasExpected) {
+    EXPECT_EQ(play("start\nfatal"), "");
+    EXPECT_EQ(errors_,
+              "\"c:\\brooklander\" cannot be made the current directory: No such file or "
+              "directory.\n");
 }
 
 TEST_F(Playing, AUserCannotWorkWhatIsHiddenOrDisabled) {
