@@ -6,10 +6,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "platform/code_page.h"
@@ -84,11 +84,12 @@ std::vector<std::string> names_in(
 std::unique_ptr<char[]> memory_for_text(std::size_t size) {
     auto bytes = std::make_unique_for_overwrite<char[]>(size);
 #ifdef MADV_HUGEPAGE
-    constexpr std::uintptr_t large_page = 2 * 1024 * 1024;
-    const auto start = reinterpret_cast<std::uintptr_t>(bytes.get());
-    const std::uintptr_t first = (start + large_page - 1) / large_page * large_page;
-    const std::uintptr_t last = (start + size) / large_page * large_page;
-    if (last > first) madvise(reinterpret_cast<void*>(first), last - first, MADV_HUGEPAGE);
+    constexpr std::size_t large_page = 2 * 1024 * 1024;
+    void* first = bytes.get();
+    std::size_t space = size;
+    if (std::align(large_page, large_page, first, space) != nullptr) {
+        madvise(first, space - space % large_page, MADV_HUGEPAGE);
+    }
 #endif
     return bytes;
 }
