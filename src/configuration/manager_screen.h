@@ -83,7 +83,7 @@ struct FrmPreferences : Screen {
     Label lblTimeZone{frameView, "lblTimeZone"};
     Label lblTrip{frameView, "lblTrip"};
     Label lblChar{frameView, "lblChar"};
-    TickBox chkEdit{frameView, "chkEdit", "Edit", hidden};
+    TickBox chkEdit{frameView, "chkEdit", "Edit"};
     Label lblWait{frameView, "lblWait", "** Please Wait **", hidden};
 
     Panel frameFileOptions{frameView, "frameFileOptions", "File Options", hidden};

@@ -22,8 +22,9 @@ const Category& results_category() {
     return *std::find_if(categories.begin(), categories.end(), is_results);
 }
 
-// The later rule wins.
-void mark_results(Screens& screens) {
+// The later rule wins. While a configuration is worked on, the rule for that enables the button
+// that goes on, or disables it.
+void mark_results(Screens& screens, bool enables_while_configuring) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     if (!screens.frmPreferencesSampleOption.chkChar.ticked()) {
         display.lblResultsSelected.show();
@@ -33,7 +34,7 @@ void mark_results(Screens& screens) {
     }
     if (screens.frmStart.chkPreferences.ticked()) {
         display.lblResultsSelected.show();
-        display.cmdContinue.enable();
+        display.cmdContinue.set_enabled(enables_while_configuring);
     }
     if (screens.frmPreferences.optVox.on()) {
         display.lblResultsSelected.hide();
@@ -102,7 +103,7 @@ void choose_category(Screens& screens, const Category& category) {
     (display.*category.clear).enable();
     display.MSFlexKeldarIN.set_highlight(Highlight::with_focus);
     if (is_results(category)) {
-        mark_results(screens);
+        mark_results(screens, true);
     } else {
         (display.*category.marker).show();
     }
@@ -118,7 +119,7 @@ void cmdCharYes_Click(Screens& screens) {
     start.cmdView.disable();
     start.frameFiles.hide();
     choose_category(screens, results_category());
-    if (start.chkPreferences.ticked()) display.cmdContinue.disable();
+    mark_results(screens, false);
 }
 
 void cmdCharNo_Click(Screens& screens) {

@@ -91,7 +91,8 @@ class Files {
     virtual std::vector<std::string> drives() const = 0;
 
     // The names of the folders in a folder, by name without regard to case. Names that start with a
-    // dot, which the host hides, and names outside the code page are left out.
+    // dot, which the host hides, and names outside the code page are left out, as are those that no
+    // file may have here.
     virtual std::vector<std::string> folders_in(std::string_view path) const = 0;
 
     // The names of the files in a folder that match a pattern of `*` (any text) and `?` (any one

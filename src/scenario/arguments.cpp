@@ -21,8 +21,8 @@ std::string Arguments::field(std::size_t index, std::initializer_list<FieldKind>
                            ? kind != FieldKind::screen
                            : std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
     if (!suits) {
-        throw WrongLine(path + " is a " + std::string(name_of(kind)) + "; that cannot be said of " +
-                        "it or done with it.");
+        throw WrongLine(path + " is of the kind " + std::string(name_of(kind)) +
+                        ", of which that cannot be said or done.");
     }
     return path;
 }

@@ -24,6 +24,9 @@ class Arguments {
     const std::filesystem::path& folder() const { return folder_; }
     const std::vector<std::string>& words() const { return words_; }
 
+    // The same words, told to be written otherwise.
+    Arguments with_usage(std::string usage) const { return {words_, folder_, std::move(usage)}; }
+
     // Throws WrongLine unless there are so many words, the command's own not counted.
     void want(std::size_t count) const {
         if (words_.size() != count) fail();

@@ -1,5 +1,7 @@
 #include "scenario/commands.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <map>
 #include <system_error>
@@ -47,18 +49,20 @@ Step write_step(const Arguments& arguments) {
     return always([path = arguments.text(0), text = arguments.text(1)](Stage& stage) {
         std::ofstream file(with_folders(stage, path), std::ios::binary);
         file << text;
-        if (!file.flush()) throw Unmet(shown(path) + " cannot be written.");
+        if (!file.flush())
+            check({errno, std::generic_category()}, shown(path) + " cannot be written");
     });
 }
 
 Step remove_step(const Arguments& arguments) {
     arguments.want(1);
     return always([path = arguments.text(0)](Stage& stage) {
-        const fs::path target = stage.host_path(path);
-        if (target == stage.host_path("c:\\") || target == target.root_path()) {
-            throw Unmet("A whole drive is not removed.");
-        }
         std::error_code fault;
+        const fs::path target = fs::weakly_canonical(stage.host_path(path), fault);
+        const fs::path drive = fs::weakly_canonical(stage.host_path("c:\\"), fault);
+        const auto [in_target, in_drive] =
+            std::mismatch(target.begin(), target.end(), drive.begin(), drive.end());
+        if (in_target == target.end()) throw Unmet("A whole drive is not removed.");
         fs::remove_all(target, fault);
         check(fault, shown(path) + " cannot be removed");
     });

@@ -218,9 +218,30 @@ Expectation source_expectation(const Arguments& arguments) {
             }};
 }
 
-Expectation expectation_of(const Arguments& arguments) {
-    if (arguments.count() < 2) arguments.fail();
-    const std::string& what = arguments.text(1);
+// How an expectation of a word is written.
+std::string usage_of(const std::string& what) {
+    static const std::map<std::string, std::string> behind{{"text", " TEXT"},
+                                                           {"value", " N"},
+                                                           {"count", " N"},
+                                                           {"entry", " I TEXT"},
+                                                           {"rows", " N"},
+                                                           {"columns", " N"},
+                                                           {"fixed", " N"},
+                                                           {"cell", " ROW COLUMN TEXT"},
+                                                           {"current", " ROW COLUMN"},
+                                                           {"width", " COLUMN N"},
+                                                           {"selection", " free, row or column"},
+                                                           {"highlight", " never, always or focus"},
+                                                           {"pointer", " busy or normal"},
+                                                           {"source", " TEXT"}};
+    const auto found = behind.find(what);
+    return "expect FIELD " + what + (found == behind.end() ? "" : found->second);
+}
+
+Expectation expectation_of(const Arguments& words) {
+    if (words.count() < 2) words.fail();
+    const std::string& what = words.text(1);
+    const Arguments arguments = words.with_usage(usage_of(what));
     if (const auto check = condition(what)) return condition_expectation(arguments, *check);
     if (what == "text") return text_expectation(arguments);
     if (what == "value") return value_expectation(arguments);

@@ -137,9 +137,20 @@ Check empty_check(const Arguments& arguments) {
     };
 }
 
-Check check_of(const Arguments& arguments) {
-    if (arguments.count() < 2) arguments.fail();
-    const std::string& what = arguments.text(1);
+// How a check of a word is written.
+std::string usage_of(const std::string& what) {
+    std::string behind;
+    if (what == "lines") behind = " N";
+    if (what == "line") behind = " I TEXT";
+    if (what == "same") behind = " HOST";
+    if (what == "holds" || what == "lacks") behind = " TEXT";
+    return "file PATH " + what + behind;
+}
+
+Check check_of(const Arguments& words) {
+    if (words.count() < 2) words.fail();
+    const std::string& what = words.text(1);
+    const Arguments arguments = words.with_usage(usage_of(what));
     if (what == "exists") return presence_check(arguments, true);
     if (what == "missing") return presence_check(arguments, false);
     if (what == "empty") return empty_check(arguments);
@@ -155,9 +166,18 @@ Check check_of(const Arguments& arguments) {
 
 Step file_step(const Arguments& arguments) {
     const Check check = check_of(arguments);
-    return {{}, Works::always, false, [path = arguments.text(0), check](Stage& stage) {
-                check(stage.host_path(path), to_utf8(path));
-            }};
+    const bool wants_missing = arguments.text(1) == "missing";
+    return {
+        {}, Works::always, false, [path = arguments.text(0), check, wants_missing](Stage& stage) {
+            fs::path file;
+            try {
+                file = stage.host_path(path);
+            } catch (const Unmet&) {
+                if (wants_missing) return;  // no file can have such a name
+                throw;
+            }
+            check(file, to_utf8(path));
+        }};
 }
 
 }  // namespace brooklander::scenario

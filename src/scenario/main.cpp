@@ -17,18 +17,22 @@ constexpr int all_passed = 0;
 constexpr int something_failed = 1;
 constexpr int not_a_scenario = 2;
 
-// Prints lines, with `*` in the place of every character of a secret.
+// Prints lines, with `*` in the place of every character of a secret, in whatever form it shows. A
+// secret that holds another one goes first.
 class Output {
   public:
     void hide(const std::string& secret) {
         if (secret.empty()) return;
+        const auto without_quotes = [](const std::string& text) {
+            return text.substr(1, text.size() - 2);
+        };
         const std::string utf8 = to_utf8(secret);
-        const std::string in_json = nlohmann::json(utf8).dump();
-        for (const std::string& form :
-             {in_json.substr(1, in_json.size() - 2), in_quotes(secret), utf8}) {
-            const bool is_quoted = form.size() > 1 && form.front() == '"' && form.back() == '"';
-            secrets_.push_back(is_quoted ? form.substr(1, form.size() - 2) : form);
-        }
+        secrets_.push_back(utf8);
+        secrets_.push_back(without_quotes(nlohmann::json(utf8).dump()));
+        secrets_.push_back(without_quotes(in_quotes(secret)));
+        std::stable_sort(secrets_.begin(), secrets_.end(), [](const auto& one, const auto& other) {
+            return one.size() > other.size();
+        });
     }
 
     void print(const std::string& line) const { std::cout << hidden(line) << std::endl; }
@@ -51,7 +55,7 @@ class Output {
 // Plays one file from a fresh program; returns its exit status.
 int play(const std::filesystem::path& file, const Options& options, const Output& output) {
     try {
-        const std::vector<Step> steps = read_script(file, options.variables);
+        const std::vector<Step> steps = read_script(file, options.variables, options.secrets);
         Stage stage(
             options.home, [&output](const std::string& line) { output.print(line); },
             [&output](const std::string& sentence) { output.tell(sentence); });
@@ -80,8 +84,7 @@ int play_all(Options options) {
         worst = std::max(worst, status);
         if (status == all_passed) ++passed;
     }
-    output.print(std::to_string(passed) + " passed, " +
-                 std::to_string(options.files.size() - passed) + " failed");
+    std::cout << passed << " passed, " << options.files.size() - passed << " failed" << std::endl;
     return worst;
 }
 

@@ -102,7 +102,12 @@ std::string ask_for_secret(const std::string& name) {
     if (without_echo.active()) std::cerr << '\n';
     if (!read) throw WrongLine("No value for --secret " + name + " could be read.");
     if (line.ends_with('\r')) line.pop_back();
-    return in_code_page(line);
+    auto value = from_utf8(line);
+    if (!value) {
+        throw WrongLine("The value for --secret " + name +
+                        " holds a character that the code page lacks.");
+    }
+    return *std::move(value);
 }
 
 }  // namespace brooklander::scenario

@@ -16,7 +16,8 @@ constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 class ScriptReader {
   public:
-    explicit ScriptReader(const Variables& variables) : variables_(variables) {}
+    ScriptReader(const Variables& variables, const std::vector<std::string>& secrets)
+        : variables_(variables), secrets_(secrets) {}
 
     void read_file(const fs::path& file) {
         const std::string shown = file.string();
@@ -59,8 +60,17 @@ class ScriptReader {
         } catch (const WrongLine& wrong) {
             // A line of an included file has been placed already.
             if (open_files_.size() > depth) throw;
-            throw WrongLine(place + ": " + wrong.what());
+            throw WrongLine(place + ": " +
+                            (holds_secret(line) ? "The line is no command. Its words hold a secret "
+                                                  "and are not told."
+                                                : wrong.what()));
         }
+    }
+
+    bool holds_secret(std::string_view line) const {
+        return std::any_of(secrets_.begin(), secrets_.end(), [line](const std::string& name) {
+            return line.find("${" + name + "}") != std::string_view::npos;
+        });
     }
 
     void include(const std::vector<std::string>& words, const fs::path& file) {
@@ -73,21 +83,24 @@ class ScriptReader {
     }
 
     const Variables& variables_;
+    const std::vector<std::string>& secrets_;
     std::vector<Step> steps_;
     std::vector<fs::path> open_files_;
 };
 
 }  // namespace
 
-std::vector<Step> read_script(const fs::path& file, const Variables& variables) {
-    ScriptReader reader(variables);
+std::vector<Step> read_script(const fs::path& file, const Variables& variables,
+                              const std::vector<std::string>& secrets) {
+    ScriptReader reader(variables, secrets);
     reader.read_file(file);
     return reader.steps();
 }
 
 std::vector<Step> read_script_text(std::string_view text, const fs::path& file,
-                                   const Variables& variables) {
-    ScriptReader reader(variables);
+                                   const Variables& variables,
+                                   const std::vector<std::string>& secrets) {
+    ScriptReader reader(variables, secrets);
     reader.read_text(text, file);
     return reader.steps();
 }

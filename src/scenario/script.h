@@ -30,10 +30,13 @@ struct Step {
 
 // All steps of a file, in order, with those of the files that it includes. Throws WrongLine with
 // the place before its sentence, for a file that cannot be read and for a line that is no command.
-std::vector<Step> read_script(const std::filesystem::path& file, const Variables& variables);
+// What is wrong with a line that puts in one of the `secrets` is not told in its words.
+std::vector<Step> read_script(const std::filesystem::path& file, const Variables& variables,
+                              const std::vector<std::string>& secrets = {});
 
 // The same of a text, as if it stood in a file of that name.
 std::vector<Step> read_script_text(std::string_view text, const std::filesystem::path& file,
-                                   const Variables& variables);
+                                   const Variables& variables,
+                                   const std::vector<std::string>& secrets = {});
 
 }  // namespace brooklander::scenario

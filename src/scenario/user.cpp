@@ -80,7 +80,11 @@ void press_keys(Field& field, const std::vector<Key>& keys) {
         static_cast<TextBox&>(field).press_keys(keys);
         return;
     }
-    for (const Key key : keys) static_cast<Grid&>(field).press_key(key);
+    const bool was_usable = field.usable();
+    for (const Key key : keys) {
+        if (key.name == Key::Name::tab || field.usable() != was_usable) break;
+        static_cast<Grid&>(field).press_key(key);
+    }
 }
 
 }  // namespace brooklander::scenario

@@ -1,6 +1,7 @@
 #include "shared/data_source.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brooklander {
 namespace {
@@ -17,6 +18,11 @@ std::vector<int> column_order(const BoundColumns& bound, std::size_t columns) {
     return order;
 }
 
+std::string value_at(const std::vector<std::string>& values, int position) {
+    const auto index = static_cast<std::size_t>(position);
+    return index < values.size() ? values[index] : std::string();
+}
+
 }  // namespace
 
 void DataSource::bind(Grid& grid, BoundColumns columns) {
@@ -29,15 +35,29 @@ void DataSource::connect(std::string_view connection, std::string_view user,
     query_.connection = connection;
     query_.user = user;
     query_.password = password;
+    changed();
 }
 
 void DataSource::refresh(Database& database) {
     query_.statement = record_source();
     const QueryResult result = database.run(query_);
-    if (grid_ != nullptr) fill(result);
+    if (grid_ != nullptr) fill_grid(result);
+    if (pick_list_ != nullptr) fill_pick_list(result);
 }
 
-void DataSource::fill(const QueryResult& result) {
+void DataSource::bind(PickList& pick_list, int column) {
+    pick_list_ = &pick_list;
+    pick_column_ = column;
+}
+
+void DataSource::fill_pick_list(const QueryResult& result) {
+    std::vector<std::string> entries;
+    entries.reserve(result.rows.size());
+    for (const auto& values : result.rows) entries.push_back(value_at(values, pick_column_));
+    pick_list_->set_entries(std::move(entries));
+}
+
+void DataSource::fill_grid(const QueryResult& result) {
     const std::vector<int> order = column_order(columns_, result.columns.size());
     const int heading = columns_.with_heading ? 1 : 0;
     const auto data_rows = static_cast<int>(result.rows.size());
@@ -50,9 +70,10 @@ void DataSource::fill(const QueryResult& result) {
     const auto fill_row = [&](int row, const std::vector<std::string>& values) {
         RowCells cells;
         grid_->read_row(row, cells);
+        std::vector<std::string> ordered;
+        for (const int position : order) ordered.push_back(value_at(values, position));
         for (int column = 0; column < grid_->columns(); ++column) {
-            const auto position = static_cast<std::size_t>(order[static_cast<std::size_t>(column)]);
-            cells.set(column, values.at(position));
+            cells.set(column, ordered[static_cast<std::size_t>(column)]);
         }
         grid_->write_row(row, cells);
     };

@@ -61,8 +61,12 @@ bool Field::store_text(std::string_view text) {
 }
 
 void Field::set_focus() {
-    if (!usable()) return;
-    screen_->focus_ = this;
+    for (const Field* holder = this; holder != screen_; holder = holder->container_) {
+        if (!holder->visible_ || !holder->enabled_) return;
+    }
+    Field* const before = std::exchange(screen_->focus_, this);
+    if (before == this) return;
+    if (before != nullptr) before->changed();
     changed();
 }
 

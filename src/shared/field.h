@@ -84,7 +84,8 @@ class Field {
     void clear_text() { set_text({}); }
     bool empty() const { return text_.empty(); }
 
-    // Gives the field its screen's focus. A field that no user can work takes none.
+    // Gives the field its screen's focus, also while the screen is hidden. A field that is hidden
+    // or disabled, or in a panel that is, takes none.
     void set_focus();
     bool focused() const;
 

@@ -32,8 +32,10 @@ void TextBox::type(std::string_view text) {
 
 void TextBox::press_keys(const std::vector<Key>& keys) {
     set_focus();
+    const bool was_usable = usable();
     std::size_t caret = text().size();
     for (const Key key : keys) {
+        if (key.name == Key::Name::tab || usable() != was_usable) break;
         caret = std::min(caret, text().size());
         const std::string before = text().substr(0, caret);
         const std::string behind = text().substr(caret);
@@ -110,7 +112,8 @@ std::string_view EntryList::entry(std::size_t index) const {
 }
 
 void EntryList::set_entry(std::size_t index, std::string_view text) {
-    entries_.at(index) = text;
+    if (index >= entries_.size()) return;
+    entries_[index] = text;
     changed();
 }
 

@@ -1,7 +1,7 @@
 // The plain kinds of fields, with the rules that each keeps.
 //
-// Members that end in a verb of the user's (press, choose, type) are what a user does; they give
-// the field the focus and run its handlers. Whether a user may do it is asked with usable() before.
+// Members named after what a user does (press, choose, type) give the field the focus, but for
+// menus, and run its handlers. Whether a user may do it is asked with usable() before.
 #pragma once
 
 #include <functional>
@@ -85,10 +85,13 @@ class TextBox : public PlacedField {
     void click();
 
     // Marks all that stands there and types the text over it, one change for each character; an
-    // empty text deletes what stands there.
+    // empty text deletes what stands there. A first character that is all that stood there changes
+    // nothing.
     void type(std::string_view text);
 
-    // Presses keys one after the other, the caret standing at the text's end before the first.
+    // Presses keys one after the other, the caret standing at the text's end before the first. Tab
+    // leaves the box, and so does a box that a key has hidden or disabled: the keys behind that do
+    // not reach it.
     void press_keys(const std::vector<Key>& keys);
 
   private:
@@ -146,6 +149,8 @@ class EntryList : public PlacedField {
 
     // The entry at an index from 0; empty where there is none.
     std::string_view entry(std::size_t index) const;
+
+    // Replaces an entry that is there.
     void set_entry(std::size_t index, std::string_view text);
 
     // The index of the selected entry, from 0.

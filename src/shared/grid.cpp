@@ -19,6 +19,7 @@ Value value_at(const std::map<int, Value>& values, int index, Value standard) {
 void Grid::set_rows(int rows) {
     cells_.set_rows(rows);
     heights_.erase(heights_.lower_bound(cells_.rows()), heights_.end());
+    colours_.erase(colours_.lower_bound({cells_.rows(), 0}), colours_.end());
     keep_current_inside();
     changed();
 }
@@ -46,6 +47,7 @@ void Grid::clear() {
 
 void Grid::load(FileText text) {
     heights_.clear();
+    colours_.clear();
     cells_.load(std::move(text));
     keep_current_inside();
     changed();
@@ -104,6 +106,26 @@ void Grid::set_column_alignment(int column, Alignment alignment) {
 
 void Grid::set_top(int twips) {
     top_ = twips;
+    changed();
+}
+
+void Grid::set_top_row(int row) {
+    top_row_ = row;
+    changed();
+}
+
+std::optional<int> Grid::cell_colour(GridCell cell) const {
+    const auto found = colours_.find(cell);
+    if (found == colours_.end()) return std::nullopt;
+    return found->second;
+}
+
+void Grid::set_cell_colour(GridCell cell, std::optional<int> colour) {
+    if (colour) {
+        colours_.insert_or_assign(cell, *colour);
+    } else {
+        colours_.erase(cell);
+    }
     changed();
 }
 

@@ -1,9 +1,11 @@
 // Grids: tables of text with a current cell, on a screen.
 #pragma once
 
+#include <compare>
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -24,7 +26,7 @@ struct GridCell {
     int row = 0;
     int column = 0;
 
-    bool operator==(const GridCell&) const = default;
+    auto operator<=>(const GridCell&) const = default;
 };
 
 // How a grid starts: without rows, unless told otherwise.
@@ -89,6 +91,14 @@ class Grid : public PlacedField {
     int top() const { return top_; }  // how far down in its panel it stands, in twips
     void set_top(int twips);
 
+    // The first row shown below the fixed ones, where a step has scrolled.
+    int top_row() const { return top_row_; }
+    void set_top_row(int row);
+
+    // A cell's background as 0xBBGGRR; nothing where it is the window's own.
+    std::optional<int> cell_colour(GridCell cell) const;
+    void set_cell_colour(GridCell cell, std::optional<int> colour);
+
     Selection selection() const { return selection_; }
     void set_selection(Selection selection);
     Highlight highlight() const { return highlight_; }
@@ -112,7 +122,9 @@ class Grid : public PlacedField {
     std::map<int, int> widths_;
     std::map<int, int> heights_;
     std::map<int, Alignment> alignments_;
+    std::map<GridCell, int> colours_;
     int top_ = 0;
+    int top_row_ = 0;
     Selection selection_ = Selection::free;
     Highlight highlight_ = Highlight::always;
 };

@@ -45,7 +45,7 @@ void FolderList::set_path(std::string_view path) {
     const bool drive_alone = path.size() == 2 && path[1] == ':';
     const std::string target = files().full_path(std::string(path) + (drive_alone ? "\\" : ""));
     const bool differs = !same_but_for_case(target, text());
-    show_folder(target, files().folders_in(target));
+    read(target);
     if (!differs) return;
     store_text(target);
     run(on_change);
@@ -53,21 +53,20 @@ void FolderList::set_path(std::string_view path) {
 
 void FolderList::refresh() {
     if (empty()) store_text(files().current_directory());
-    std::vector<std::string> folders;
-    try {
-        folders = files().folders_in(path());
-    } catch (const FatalFailure&) {
-        folders.clear();
-    }
-    show_folder(path(), std::move(folders));
+    read(path());
 }
 
-void FolderList::show_folder(const std::string& folder, std::vector<std::string> folders_in_it) {
+void FolderList::read(const std::string& folder) {
     std::vector<std::string> shown_entries;
     for (const std::string& ancestor : ancestors_and_self(folder)) {
         shown_entries.push_back(last_name(ancestor));
     }
-    std::move(folders_in_it.begin(), folders_in_it.end(), std::back_inserter(shown_entries));
+    try {
+        std::vector<std::string> folders = files().folders_in(folder);
+        std::move(folders.begin(), folders.end(), std::back_inserter(shown_entries));
+    } catch (const FatalFailure&) {
+        // Only the way to the folder is shown then.
+    }
     set_entries(std::move(shown_entries));
 }
 
@@ -78,8 +77,10 @@ std::string FolderList::entry_path(std::size_t index) const {
 
 std::optional<std::size_t> FolderList::find(std::string_view text) const {
     if (auto found = EntryList::find(text)) return found;
+    std::string wanted(text);
+    std::replace(wanted.begin(), wanted.end(), '/', '\\');
     for (std::size_t index = 0; index < count(); ++index) {
-        if (same_but_for_case(entry_path(index), text)) return index;
+        if (same_but_for_case(entry_path(index), wanted)) return index;
     }
     return std::nullopt;
 }

@@ -44,14 +44,14 @@ class FolderList : public PlaceList {
     std::function<void()> on_change;  // after the path has changed
 
     // Goes to a folder (a drive alone means its root), reads it, and runs on_change when the path
-    // differs from before. A FatalFailure where the folder cannot be read.
+    // differs from before. A folder that has gone or cannot be read shows as an empty one.
     void set_path(std::string_view path);
     const std::string& path() const { return text(); }
 
     // The path of an entry in full.
     std::string entry_path(std::size_t index) const;
 
-    // An entry can be found by its whole path, too.
+    // An entry can be found by its whole path, too, with either slash.
     std::optional<std::size_t> find(std::string_view text) const override;
 
     void set_text(std::string_view text) override { set_path(text); }
@@ -60,7 +60,7 @@ class FolderList : public PlaceList {
     void refresh() override;
 
   private:
-    void show_folder(const std::string& folder, std::vector<std::string> folders_in_it);
+    void read(const std::string& folder);
 };
 
 // The files of a folder whose names are of a pattern, by name. Its text is the name selected.

@@ -1,6 +1,7 @@
 #include "shared/screen.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brooklander {
 
@@ -42,7 +43,9 @@ void Screen::set_pointer(Pointer pointer) {
 void Screen::take_focus_from(const Field& field) {
     if (&field == this) return;
     for (const Field* holder = focus_; holder != nullptr; holder = holder->container()) {
-        if (holder == &field) focus_ = nullptr;
+        if (holder != &field) continue;
+        std::exchange(focus_, nullptr)->changed();
+        return;
     }
 }
 

@@ -26,13 +26,16 @@ constexpr std::string_view left(std::string_view text, std::size_t length) {
     return text.substr(0, length);
 }
 
+inline constexpr int farthest_position = 999'999'999;
+
 // A row or column as a caption holds it: decimal digits, from 0. Text that is empty or no such
-// number counts as 0, as does one that no grid could reach.
+// number counts as 0, as does one beyond the farthest.
 inline int position_in(std::string_view caption) {
     int position = 0;
     const char* const end = caption.data() + caption.size();
     const auto [stop, fault] = std::from_chars(caption.data(), end, position);
-    return fault == std::errc{} && stop == end && position > 0 ? position : 0;
+    const bool reachable = position > 0 && position <= farthest_position;
+    return fault == std::errc{} && stop == end && reachable ? position : 0;
 }
 
 }  // namespace brooklander

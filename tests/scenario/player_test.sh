@@ -47,6 +47,11 @@ expect "a variable without a value" 2 $'with.scn:1: ${NAME} has no value; give i
   -- with.scn < /dev/null
 expect "a secret shows nowhere" 1 $'{"field":"frmStart.txtOracleID","kind":"text box","visible":true,"enabled":true,"seen":true,"text":"******"}\nsecret.scn:5: frmStart.txtOracleID: expected "x******", found "******".\n0 passed, 1 failed' \
   -- --secret WORD secret.scn <<< 'geheim'
+expect "a secret within another one" 1 $'{"field":"frmStart.txtOracleID","kind":"text box","visible":true,"enabled":true,"seen":true,"text":"**********"}\nsecret.scn:5: frmStart.txtOracleID: expected "x**********", found "**********".\n0 passed, 1 failed' \
+  -- --secret SHORT --secret WORD secret.scn <<< $'keldar\nkeldar2005'
+expect "a secret of quotes and the count of the files" 1 $'{"field":"frmStart.txtOracleID","kind":"text box","visible":true,"enabled":true,"seen":true,"text":"****"}\nsecret.scn:5: frmStart.txtOracleID: expected "x****", found "****".\n0 passed, 1 failed' \
+  -- --secret WORD secret.scn <<< '""'
+expect "a secret that no line holds" 2 '' -- --secret WORD secret.scn <<< 'Łgeheim'
 expect "a secret without input" 2 '' -- --secret WORD secret.scn < /dev/null
 expect "no file" 2 '' -- < /dev/null
 expect "an option that is none" 2 '' -- --loud good.scn < /dev/null

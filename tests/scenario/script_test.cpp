@@ -64,8 +64,13 @@ TEST(Script, AWrongLineIsToldWithItsPlaceAndItsReason) {
     EXPECT_EQ(reading_of("click"), "here.scn:1: The command is written: click FIELD.");
     EXPECT_EQ(reading_of("start now"), "here.scn:1: The command is written: start.");
     EXPECT_EQ(reading_of("click frmStart.lblSelectedFile"),
-              "here.scn:1: frmStart.lblSelectedFile is a label; that cannot be said of it or done "
-              "with it.");
+              "here.scn:1: frmStart.lblSelectedFile is of the kind label, of which that cannot be "
+              "said or "
+              "done.");
+    EXPECT_EQ(reading_of("expect frmStart.cmdView visible now"),
+              "here.scn:1: The command is written: expect FIELD visible.");
+    EXPECT_EQ(reading_of("file c:\\a line 1"),
+              "here.scn:1: The command is written: file PATH line I TEXT.");
     EXPECT_EQ(reading_of("cell frmImportFileDisplay.MSFlexKeldarIN -1 0"),
               "here.scn:1: \"-1\" is no row.");
 }
@@ -102,6 +107,17 @@ TEST(Script, WhatALineAloneCanTellIsToldBeforeAnythingRuns) {
                                         "keys frmStart.txtOracleID {F1}",
                                         "select frmStart.Dir1"}) {
         EXPECT_EQ(reading_of(line).substr(0, 12), "here.scn:1: ") << line << reading_of(line);
+    }
+}
+
+TEST(Script, AWrongLineThatHoldsASecretIsNotToldInItsWords) {
+    try {
+        read_script_text("keys frmStart.txtOracleID ${PW}", "here.scn", {{"PW", "abc{def}"}},
+                         {"PW"});
+        FAIL() << "the line is wrong";
+    } catch (const WrongLine& wrong) {
+        EXPECT_EQ(std::string(wrong.what()),
+                  "here.scn:1: The line is no command. Its words hold a secret and are not told.");
     }
 }
 

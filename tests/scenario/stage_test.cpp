@@ -151,7 +151,14 @@ TEST_F(Playing, FoldersAreMadeAndRemovedWithAllThatIsInThemButNeverADrive) {
               "");
     EXPECT_EQ(play("remove c:\\"), "here.scn:1: A whole drive is not removed.");
     EXPECT_EQ(play("remove z:\\"), "here.scn:1: A whole drive is not removed.");
+    EXPECT_EQ(play("remove z:" + folder_.path().string()),
+              "here.scn:1: A whole drive is not removed.");
+    EXPECT_EQ(play("remove z:" + folder_.path().parent_path().string()),
+              "here.scn:1: A whole drive is not removed.");
     EXPECT_EQ(play("write c:\\a? x").substr(0, 12), "here.scn:1: ");
+    EXPECT_EQ(play("file \"c:\\\\a?\" missing"), "");
+    EXPECT_EQ(play("make c:\\a\nwrite c:\\a x"),
+              "here.scn:2: \"c:\\a\" cannot be written: Is a directory.");
 }
 
 TEST_F(Playing, PrintingTellsAllThatAFieldHolds) {

@@ -65,7 +65,87 @@ TEST_F(DataSourceRules, ListedColumnsComeFirstAndTheOthersFollowHidden) {
     source_.refresh(database_);
     EXPECT_EQ(grid_.cell(1, 0), "ICE");
     EXPECT_EQ(grid_.cell(1, 2), "21ORG");
+    EXPECT_EQ(grid_.column_width(0), Grid::standard_width);
+    EXPECT_EQ(grid_.column_width(1), Grid::standard_width);
     EXPECT_EQ(grid_.column_width(2), 0);
+}
+
+// The columns of each statement, and the names that its grid must show first.
+struct Layout {
+    BoundColumns columns;
+    std::vector<std::string> statement;
+    std::vector<std::string> shown;
+};
+
+TEST_F(DataSourceRules, EveryGridShowsTheColumnsThatItsUsersRead) {
+    const std::vector<Layout> layouts{
+        {bound::trips,
+         {"id_code", "tsrtrip_org_id", "name", "tsrtrip_is_number"},
+         {"id_code", "name", "tsrtrip_is_number", "tsrtrip_org_id"}},
+        {bound::sample_procedures,
+         {"tsrfldpr_org_id", "id_code", "name", "tsrfldpr_is_number", "fld_gear_type_name"},
+         {"id_code", "name", "fld_gear_type_name"}},
+        {bound::gear_configurations,
+         {"tsrgrcfg_org_id", "id_code", "name", "tsrfldgr_is_number", "number", "gear_id_code"},
+         {"id_code", "name"}},
+        {bound::projects,
+         {"tsmproj_is_number", "identification_cd", "name", "tsmproj_org_id"},
+         {"identification_cd", "name"}},
+        {bound::persons,
+         {"tsmpersn_org_id", "last_name", "first_name", "active_indicatr_cd"},
+         {"last_name", "first_name"}},
+        {bound::sample_transports, {"tsrsdp_org_id", "id_code", "name"}, {"id_code", "name"}},
+        {bound::procedures, {"source_acr", "procedure_id", "name"}, {"procedure_id", "name"}},
+        {bound::installations,
+         {"tsradl_org_id", "id_code", "serial_number", "model", "make"},
+         {"id_code", "serial_number", "model", "make"}},
+        {bound::log_files,
+         {"adl_number", "adl_org", "prd_org", "prd_number", "log_file_name", "prd_adl_number",
+          "prd_adl_org", "start_date", "stop_date"},
+         {"log_file_name", "start_date", "stop_date"}},
+        {bound::logger_groups,
+         {"tsrchgrp_org_id", "tsrchgrp_is_number", "id_code", "name", "fld_act_type_nm"},
+         {"id_code", "name"}},
+        {bound::setup_groups,
+         {"tsrchgrp_org_id", "id_code", "name", "fld_act_type_nm"},
+         {"id_code", "name"}},
+        {bound::group_characteristics,
+         {"0", "1", "2", "3", "4", "5", "6", "row_id", "uom_name", "9", "10", "11", "12", "13",
+          "14", "15", "16", "17", "display_name"},
+         {"row_id", "display_name", "uom_name"}},
+        {bound::group_contents,
+         {"0", "1", "2", "3", "4", "5", "6", "row_id", "uom_name", "smpl_frac_type_nm", "10", "11",
+          "12", "13", "14", "15", "16", "display_name", "18"},
+         {"row_id", "display_name", "uom_name", "smpl_frac_type_nm"}},
+    };
+    for (const Layout& layout : layouts) {
+        database_.answer = {layout.statement, {layout.statement}};
+        source_.bind(grid_, layout.columns);
+        source_.refresh(database_);
+        std::vector<std::string> shown;
+        for (std::size_t column = 0; column < layout.columns.count; ++column) {
+            shown.emplace_back(grid_.cell(grid_.fixed_rows(), static_cast<int>(column)));
+        }
+        EXPECT_EQ(shown, layout.shown);
+    }
+}
+
+TEST_F(DataSourceRules, AColumnThatTheAnswerLacksIsEmpty) {
+    database_.answer = {{"id_code"}, {{"A"}}};
+    source_.bind(grid_, bound::projects);
+    source_.refresh(database_);
+    EXPECT_EQ(grid_.cell(1, 0), "");
+    EXPECT_EQ(grid_.cell(1, 2), "A");
+}
+
+TEST_F(DataSourceRules, ABoundPickListOffersOneColumn) {
+    database_.answer = {{"org", "name", "id"},
+                        {{"21ORG", "North Lab", "LAB1"}, {"21ORG", "", "LAB2"}}};
+    PickList& labs = test_.screen.cmbEntries;
+    source_.bind(labs, 2);
+    source_.refresh(database_);
+    EXPECT_EQ(labs.entries(), (std::vector<std::string>{"LAB1", "LAB2"}));
+    EXPECT_FALSE(labs.selected());
 }
 
 TEST_F(DataSourceRules, AGridWithoutHeadingTakesRowZeroForDataAndHasNoRowWithoutData) {

@@ -123,11 +123,46 @@ TEST_F(Focus, IsLostWithAFieldThatHidesOrIsDisabledAndWithAPanelAroundIt) {
     EXPECT_FALSE(screen_.txtShort.focused());
 }
 
-TEST_F(Focus, GoesToNothingThatAUserCannotWork) {
-    screen_.txtText.set_focus();
+TEST_F(Focus, IsGivenByEveryKindThatAUserWorks) {
+    screen_.lstEntries.set_entries({"a"});
+    screen_.chkOne.turn_over();
+    EXPECT_TRUE(screen_.chkOne.focused());
+    screen_.optOne.choose();
+    EXPECT_TRUE(screen_.optOne.focused());
+    screen_.lstEntries.click_entry(0);
+    EXPECT_TRUE(screen_.lstEntries.focused());
+}
+
+TEST_F(Focus, GoesToNothingThatIsHiddenOrDisabledOrInAPanelThatIs) {
+    screen_.MSFlexTest.set_focus();
     screen_.cmdPress.disable();
     screen_.cmdPress.set_focus();
+    screen_.frameInner.disable();
+    screen_.txtText.set_focus();
+    EXPECT_TRUE(screen_.MSFlexTest.focused());
+}
+
+TEST_F(Focus, IsLostWithAPanelThatIsDisabled) {
+    screen_.txtText.set_focus();
+    screen_.frameOuter.disable();
+    EXPECT_FALSE(screen_.txtText.focused());
+}
+
+TEST_F(Focus, CanBeGivenWhileTheScreenIsHiddenAndStaysWithIt) {
+    screen_.hide();
+    screen_.txtText.set_focus();
+    screen_.show();
     EXPECT_TRUE(screen_.txtText.focused());
+}
+
+TEST_F(Focus, IsToldToTheFieldThatGetsItAndToTheOneThatLosesIt) {
+    screen_.txtText.set_focus();
+    screen_.txtText.observe(count_);
+    screen_.txtShort.set_focus();
+    EXPECT_EQ(runs_, 1);
+    screen_.txtShort.observe(count_);
+    screen_.frameOuter.hide();
+    EXPECT_EQ(runs_, 2);
 }
 
 TEST_F(Focus, RunsNothingInATextBox) {
@@ -198,6 +233,26 @@ TEST_F(TextBoxes, KeysWorkFromTheTextsEnd) {
                                 {tab},
                                 {escape}});
     EXPECT_EQ(screen_.txtText.text(), "aX");
+}
+
+TEST_F(TextBoxes, AFirstCharacterThatStoodThereAloneChangesNothing) {
+    screen_.txtText.set_text("a");
+    screen_.txtText.on_change = count_;
+    screen_.txtText.type("a");
+    EXPECT_EQ(runs_, 0);
+    screen_.txtText.type("ab");
+    EXPECT_EQ(runs_, 1);
+}
+
+TEST_F(TextBoxes, KeysBehindATabOrBehindTheBoxsEndDoNotReachIt) {
+    screen_.txtText.press_keys({Key::of('a'), {Key::Name::tab}, Key::of('b')});
+    EXPECT_EQ(screen_.txtText.text(), "a");
+    screen_.txtText.on_change = [&] { screen_.frameOuter.hide(); };
+    screen_.txtText.press_keys({Key::of('c'), Key::of('d')});
+    EXPECT_EQ(screen_.txtText.text(), "ac");
+    screen_.txtText.on_change = nullptr;
+    screen_.txtText.press_keys({Key::of('e'), Key::of('f')});
+    EXPECT_EQ(screen_.txtText.text(), "acef");
 }
 
 TEST_F(TextBoxes, EnterPressesItsButtonWhileAUserCould) {
@@ -283,6 +338,9 @@ TEST_F(Lists, TheFirstOfSeveralLikeEntriesIsFound) {
     EXPECT_EQ(screen_.lstEntries.find("b"), 1U);
     EXPECT_EQ(screen_.lstEntries.find("B"), std::nullopt);
     EXPECT_EQ(screen_.lstEntries.entry(7), "");
+    screen_.lstEntries.set_entry(1, "c");
+    screen_.lstEntries.set_entry(7, "d");
+    EXPECT_EQ(screen_.lstEntries.entries(), (std::vector<std::string>{"a", "c", "b"}));
 }
 
 TEST_F(Lists, APickListSaysTheEntryThatIsChosen) {
@@ -307,6 +365,22 @@ TEST_F(Observers, AreToldOfEveryChangeAndOfNothingElse) {
     screen_.lblText.hide();
     screen_.lblText.disable();
     EXPECT_EQ(runs_, 3);
+}
+
+TEST_F(Observers, AreToldByEveryKind) {
+    for (Field* field : std::initializer_list<Field*>{
+             &screen_.chkOne, &screen_.optOne, &screen_.lstEntries, &screen_.MSFlexTest,
+             &screen_.AdodcTest, &screen_.txtText, &screen_}) {
+        field->observe(count_);
+    }
+    screen_.chkOne.set_ticked(true);
+    screen_.optOne.set_on(true);
+    screen_.lstEntries.add("a");
+    screen_.MSFlexTest.set_highlight(Highlight::never);
+    screen_.AdodcTest.set_record_source("Select 1");
+    screen_.txtText.set_text("a");
+    screen_.set_pointer(Pointer::busy);
+    EXPECT_EQ(runs_, 7);
 }
 
 }  // namespace

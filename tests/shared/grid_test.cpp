@@ -124,6 +124,41 @@ TEST_F(GridRules, AGridThatIsTypedIntoGetsAllKeysItself) {
     EXPECT_EQ(grid_.current(), (GridCell{0, 0}));
 }
 
+TEST_F(GridRules, ArrowsStayOutOfFixedColumns) {
+    test::FrmTest other(test_.desk, "frmOther");
+    Grid grid(other, "MSFlexFixed", {.columns = 3, .fixed_rows = 0, .fixed_columns = 1});
+    grid.add_row("a\tb\tc");
+    grid.make_current({0, 1});
+    grid.press_key({Key::Name::left});
+    EXPECT_EQ(grid.current(), (GridCell{0, 1}));
+    EXPECT_EQ(grid.fixed_columns(), 1);
+}
+
+TEST_F(GridRules, KnowsHowItIsShown) {
+    EXPECT_EQ(grid_.selection(), Selection::free);
+    EXPECT_EQ(grid_.highlight(), Highlight::always);
+    EXPECT_EQ(grid_.column_alignment(1), Alignment::standard);
+    EXPECT_EQ(grid_.cell_colour({1, 1}), std::nullopt);
+    grid_.set_selection(Selection::by_column);
+    grid_.set_highlight(Highlight::with_focus);
+    grid_.set_column_alignment(1, Alignment::left);
+    grid_.set_cell_colour({1, 1}, 0xC0FF08);
+    grid_.set_top(240);
+    grid_.set_top_row(1);
+    EXPECT_EQ(grid_.selection(), Selection::by_column);
+    EXPECT_EQ(grid_.highlight(), Highlight::with_focus);
+    EXPECT_EQ(grid_.column_alignment(1), Alignment::left);
+    EXPECT_EQ(grid_.column_alignment(0), Alignment::standard);
+    EXPECT_EQ(grid_.cell_colour({1, 1}), 0xC0FF08);
+    EXPECT_EQ(grid_.top(), 240);
+    EXPECT_EQ(grid_.top_row(), 1);
+    grid_.set_cell_colour({1, 1}, std::nullopt);
+    EXPECT_EQ(grid_.cell_colour({1, 1}), std::nullopt);
+    grid_.set_cell_colour({1, 1}, 0xC0FF08);
+    grid_.set_rows(1);
+    EXPECT_EQ(grid_.cell_colour({1, 1}), std::nullopt);
+}
+
 TEST_F(GridRules, AnEmptyGridTakesKeysWithoutHarm) {
     grid_.set_rows(0);
     for (const auto name : {Key::Name::up, Key::Name::down, Key::Name::left, Key::Name::right}) {

@@ -44,6 +44,7 @@ TEST_F(PlaceLists, AnEntryStandsForAWholePathAndIsFoundByIt) {
     EXPECT_EQ(folders_.entry_path(1), "c:\\data");
     EXPECT_EQ(folders_.entry_path(3), "c:\\data\\lakes\\deep");
     EXPECT_EQ(folders_.find("c:\\DATA\\lakes\\deep"), 3U);
+    EXPECT_EQ(folders_.find("c:/data/lakes"), 2U);
     EXPECT_EQ(folders_.find("deep"), 3U);
     EXPECT_EQ(folders_.find("nowhere"), std::nullopt);
 }
@@ -63,11 +64,35 @@ TEST_F(PlaceLists, ADriveAloneMeansItsRoot) {
     EXPECT_EQ(folders_.path(), "c:\\");
 }
 
-TEST_F(PlaceLists, AFolderThatIsNotThereIsAFailureAndLeavesTheListAsItWas) {
+TEST_F(PlaceLists, AFolderThatIsNotThereShowsAsAnEmptyOneAndADriveThatIsNotThereIsAFailure) {
+    folders_.set_path("c:\\data\\nowhere");
+    EXPECT_EQ(folders_.entries(), (Names{"c:\\", "data", "nowhere"}));
+    EXPECT_THROW(folders_.set_path("q:\\data"), FatalFailure);
+    EXPECT_EQ(folders_.path(), "c:\\data\\nowhere");
+}
+
+TEST_F(PlaceLists, AClickOnTheSelectedEntryRunsTheHandlerAgainAndARefreshRunsNothing) {
+    files_.set_path("c:\\data");
     folders_.set_path("c:\\data");
-    EXPECT_THROW(folders_.set_path("c:\\data\\nowhere"), FatalFailure);
-    EXPECT_EQ(folders_.path(), "c:\\data");
-    EXPECT_EQ(folders_.count(), 4U);
+    files_.on_click = folders_.on_click = [this] { ++runs_; };
+    files_.click_entry(0);
+    files_.click_entry(0);
+    folders_.click_entry(1);
+    folders_.click_entry(1);
+    EXPECT_EQ(runs_, 4);
+    files_.refresh();
+    folders_.refresh();
+    EXPECT_EQ(runs_, 4);
+}
+
+TEST_F(PlaceLists, NamesThatNoFileMayHaveAreNotListed) {
+    test_.folder.write("data/a:b.txt", "");
+    test_.folder.write("data/a\\b.txt", "");
+    fs::create_directories(test_.folder.path() / "data/a?b");
+    files_.set_path("c:\\data");
+    folders_.set_path("c:\\data");
+    EXPECT_EQ(files_.entries(), (Names{"A.TXT", "b.txt", "c.txt.old"}));
+    EXPECT_EQ(folders_.entries(), (Names{"c:\\", "data", "Brooks", "lakes"}));
 }
 
 TEST_F(PlaceLists, ListsThatNoStepHasSetStandAtTheCurrentDirectory) {
@@ -126,6 +151,7 @@ TEST_F(PlaceLists, AChoiceOfADriveRunsTheHandlerEveryTime) {
     EXPECT_EQ(drives.text(), "z:");
     drives.refresh();
     EXPECT_EQ(drives.text(), "z:");
+    EXPECT_EQ(runs_, 2);
 }
 
 }  // namespace

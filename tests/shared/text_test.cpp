@@ -29,6 +29,8 @@ TEST(Text, ACaptionThatIsNoPositionCountsAsZero) {
     EXPECT_EQ(position_in("x"), 0);
     EXPECT_EQ(position_in("3x"), 0);
     EXPECT_EQ(position_in("-4"), 0);
+    EXPECT_EQ(position_in("999999999"), 999999999);
+    EXPECT_EQ(position_in("1000000000"), 0);
     EXPECT_EQ(position_in("99999999999999"), 0);
 }
 

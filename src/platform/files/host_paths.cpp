@@ -115,7 +115,10 @@ std::vector<std::string> HostPaths::drives() const {
 
 std::string program_name(const fs::path& host_name) {
     const std::u8string utf8 = host_name.u8string();
-    return from_utf8(std::string(utf8.begin(), utf8.end())).value_or("");
+    std::string name = from_utf8(std::string(utf8.begin(), utf8.end())).value_or("");
+    const bool allowed = std::none_of(name.begin(), name.end(), is_forbidden) &&
+                         name.find_first_of(slashes) == std::string::npos;
+    return allowed ? name : std::string();
 }
 
 }  // namespace brooklander

@@ -45,7 +45,8 @@ class HostPaths {
     ProgramPath current_directory_;
 };
 
-// A host name in the code page, or an empty text when the code page cannot spell it.
+// A host name as the program spells it; an empty text when it cannot: when the code page lacks a
+// character of it, or when it holds one that no name may hold here.
 std::string program_name(const std::filesystem::path& host_name);
 
 }  // namespace brooklander
