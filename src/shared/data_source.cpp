@@ -71,6 +71,7 @@ void DataSource::fill_grid(const QueryResult& result) {
         RowCells cells;
         grid_->read_row(row, cells);
         std::vector<std::string> ordered;
+        ordered.reserve(order.size());
         for (const int position : order) ordered.push_back(value_at(values, position));
         for (int column = 0; column < grid_->columns(); ++column) {
             cells.set(column, ordered[static_cast<std::size_t>(column)]);

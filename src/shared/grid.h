@@ -1,7 +1,6 @@
 // Grids: tables of text with a current cell, on a screen.
 #pragma once
 
-#include <compare>
 #include <functional>
 #include <initializer_list>
 #include <map>
@@ -26,7 +25,12 @@ struct GridCell {
     int row = 0;
     int column = 0;
 
-    auto operator<=>(const GridCell&) const = default;
+    bool operator==(const GridCell&) const = default;
+
+    // Row by row.
+    bool operator<(const GridCell& other) const {
+        return row != other.row ? row < other.row : column < other.column;
+    }
 };
 
 // How a grid starts: without rows, unless told otherwise.
