@@ -23,9 +23,10 @@ struct DefaultsField {
 // Most cuts end one byte before the next stop, where a value of full width would touch its
 // neighbour. The others:
 // - Name takes its full width: nothing stands before it.
-// - Procedure Source keeps its full width in a conversion alone.
-// - Procedure Name is cut from two bytes before its stop, on what is blank unless the source is 13
-//   or 14 bytes long; such a source then leaks into it. Existing files are read with that cut.
+// - Procedure Source keeps its full width in a conversion alone; the screens keep three bytes less.
+// - Procedure Name ends one byte before the next stop on the screens and two in a conversion. It
+//   begins two bytes before its own stop, on what is blank unless the source is 13 or 14 bytes
+//   long; such a source then leaks into it. Existing files are read with that cut.
 // - Duration keeps its full width in a conversion alone.
 // - Detection Limit UOM stands last: nothing but the cuts themselves bounds it.
 inline constexpr std::array<DefaultsField, 13> defaults_fields{{

@@ -32,8 +32,8 @@ void take_characteristics_from_headings(FrmImportFileDisplay& display, int first
     Grid& table = display.MSFlexKeldarIN;
     std::vector<std::string> names;
     for (int column = first_column; column < table.columns(); ++column) {
-        table.make_current({0, column});
-        names.emplace_back(trim(table.current_text()));
+        names.emplace_back(trim(table.cell(0, column)));
+        if (table.rows() > 0) table.make_current({0, column});
     }
     display.lstRows.set_entries(std::move(names));
     display.lstChar.clear();
@@ -44,7 +44,7 @@ void take_characteristics_from_file(FrmImportFileDisplay& display, const Files& 
     std::vector<std::string> names;
     std::vector<std::string> lines;
     try {
-        const FileText text = files.read(path);
+        const FileText text = files.read(path, ReadErrors::end_text);
         for (LineReader reader(text.view()); !reader.at_end();) {
             const std::string_view line = reader.next();
             names.emplace_back(conversion_value(line, defaults_field::name));

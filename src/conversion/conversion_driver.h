@@ -16,10 +16,11 @@ inline constexpr int conversion_row_limit = 650001;
 // and normalised results in the table.
 //
 // A FatalFailure when the output cannot be opened or written, when a data row lies beyond the
-// limit, and when a column lies outside the table; all lines completed before it are in the file.
-// Under a configuration, a first failure while results are written starts the pass over them again,
-// the lines already written staying in the file, and only the second one is fatal. A characteristic
-// defaults file that cannot be read is no failure: the run ends with an empty load file.
+// limit, and when a column lies outside the table. The file then ends with a whole line: the last
+// one completed, or, where writing failed, the last one written. Under a configuration, a first
+// failure while results are written starts the pass over them again, the lines already written
+// staying in the file, and only the second one is fatal. A characteristic defaults file that cannot
+// be read is no failure: the run ends with an empty load file.
 void cmdFormatConfirm_Click(Screens& screens, Files& files);
 
 }  // namespace brooklander

@@ -21,21 +21,37 @@ LineWriter::~LineWriter() {
 
 void LineWriter::put_long_line(std::initializer_list<std::string_view> pieces) {
     write_held_back();
-    for (const std::string_view piece : pieces) file_->write(piece);
+    for (const std::string_view piece : pieces) write(piece);
+    whole_lines_ = written_;
 }
 
-// What a failed write leaves is not tried again: part of it may be in the file already.
-void LineWriter::write_full_blocks() {
-    const std::size_t full = used_ - used_ % OutputFile::good_block;
-    const std::size_t rest = std::exchange(used_, 0) - full;
-    file_->write({buffer_.get(), full});
-    std::memmove(buffer_.get(), buffer_.get() + full, rest);
+// A block ends in the middle of the line that filled it, unless that line ends with it.
+void LineWriter::write_full_block(std::size_t last_line_start) {
+    const std::size_t rest = std::exchange(used_, 0) - OutputFile::good_block;
+    write({buffer_.get(), OutputFile::good_block});
+    whole_lines_ = rest == 0 ? written_ : written_ - OutputFile::good_block + last_line_start;
+    std::memmove(buffer_.get(), buffer_.get() + OutputFile::good_block, rest);
     used_ = rest;
 }
 
 void LineWriter::write_held_back() {
     const std::size_t held_back = std::exchange(used_, 0);
-    if (held_back > 0) file_->write({buffer_.get(), held_back});
+    if (held_back > 0) write({buffer_.get(), held_back});
+    whole_lines_ = written_;
+}
+
+// What a failed write leaves is not tried again: part of it may be in the file already, and that is
+// taken back to the last whole line, so that no line is ever half there or runs into another one.
+void LineWriter::write(std::string_view bytes) {
+    try {
+        file_->write(bytes);
+        written_ += bytes.size();
+    } catch (const FatalFailure&) {
+        used_ = 0;
+        written_ = whole_lines_;
+        file_->cut_back(whole_lines_);
+        throw;
+    }
 }
 
 void LineWriter::finish() {

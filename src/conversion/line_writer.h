@@ -72,10 +72,12 @@ class LineWriter {
     LineWriter(const LineWriter&) = delete;
     LineWriter& operator=(const LineWriter&) = delete;
 
-    // Hands on what is held back, as far as that goes; a failure has been told before.
+    // Hands on what is held back. That this fails is told to nobody: the writer is only given up
+    // like this when another failure is on its way.
     ~LineWriter();
 
-    // Writes a line of four pieces. The result must be readable as a block.
+    // Writes a line of four pieces. The result must be readable as a block. A FatalFailure when the
+    // file cannot be written; the file then ends with a whole line, and what was held back is gone.
     void put_line(const BlockText& row, const BlockText& before, std::string_view result,
                   const BlockText& behind) {
         const std::size_t length = row.size() + before.size() + result.size() + behind.size();
@@ -83,13 +85,14 @@ class LineWriter {
             put_long_line({row.view(), before.view(), result, behind.view()});
             return;
         }
-        char* at = buffer_.get() + used_;
+        const std::size_t line_start = used_;
+        char* at = buffer_.get() + line_start;
         at = copy_blocks(at, row.data(), row.size());
         at = copy_blocks(at, before.data(), before.size());
         at = copy_readable(at, result);
         copy_blocks(at, behind.data(), behind.size());
         used_ += length;
-        if (used_ >= OutputFile::good_block) write_full_blocks();
+        if (used_ >= OutputFile::good_block) write_full_block(line_start);
     }
 
     // Hands everything on and closes the file. A FatalFailure when that fails.
@@ -98,7 +101,7 @@ class LineWriter {
   private:
     static constexpr std::size_t most_at_once = 64 * 1024;
 
-    // Copies whole blocks, up to one byte short of a block more than asked for.
+    // Copies whole blocks: up to a block more than asked for.
     static char* copy_blocks(char* to, const char* from, std::size_t size) {
         std::memcpy(to, from, BlockText::block);
         for (std::size_t done = BlockText::block; done < size; done += BlockText::block) {
@@ -108,12 +111,15 @@ class LineWriter {
     }
 
     void put_long_line(std::initializer_list<std::string_view> pieces);
-    void write_full_blocks();
+    void write_full_block(std::size_t last_line_start);
     void write_held_back();
+    void write(std::string_view bytes);
 
     std::unique_ptr<OutputFile> file_;
     std::unique_ptr<char[]> buffer_;
     std::size_t used_ = 0;
+    std::uint64_t written_ = 0;
+    std::uint64_t whole_lines_ = 0;  // how much of what was written are whole lines
 };
 
 }  // namespace brooklander

@@ -24,7 +24,7 @@ void prepare(FrmImportFileDisplay& display) {
 void load_import_table(Screens& screens, const Files& files, std::string_view path) {
     prepare(screens.frmImportFileDisplay);
     screens.frmStart.set_pointer(Pointer::busy);
-    screens.frmImportFileDisplay.MSFlexKeldarIN.load(files.read(path));
+    screens.frmImportFileDisplay.MSFlexKeldarIN.load(files.read(path, ReadErrors::end_text));
     screens.frmStart.set_pointer(Pointer::normal);
 }
 

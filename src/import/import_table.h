@@ -10,7 +10,8 @@ namespace brooklander {
 
 // Loads a file into the import table. Tabs alone divide; quotes are text; the first line is row 0
 // whatever it holds; an empty line is a row. A file that cannot be opened is a FatalFailure, and
-// the table is empty then; once open, whatever goes wrong ends the table where it got to.
+// the table is empty then, as is one that is larger than the memory. A failure while reading ends
+// the table where it got to.
 void load_import_table(Screens& screens, const Files& files, std::string_view path);
 
 }  // namespace brooklander

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -51,10 +52,19 @@ class OutputFile {
     OutputFile& operator=(const OutputFile&) = delete;
     virtual ~OutputFile() = default;
 
-    // Hands the bytes to the system at once; nothing is held back.
+    // Hands the bytes to the system at once; nothing is held back. After a failure a part of them
+    // may be in the file.
     virtual void write(std::string_view bytes) = 0;
+
+    // Cuts the file to so many bytes behind what it held when it was opened. Where that cannot be
+    // done, nothing happens.
+    virtual void cut_back(std::uint64_t bytes) = 0;
     virtual void close() = 0;
 };
+
+// What a failure while reading does, after the file was opened: it is a FatalFailure, or it ends
+// the text there, as the end of the file would.
+enum class ReadErrors { fail, end_text };
 
 class Files {
   public:
@@ -71,9 +81,8 @@ class Files {
     // folder that is there already included: everyone who makes folders goes on all the same.
     virtual bool make_folder(std::string_view path) = 0;
 
-    // The whole file. Whatever becomes of the file later, the text stays. A failure while reading,
-    // after the file was opened, ends the text there, as the end of the file would.
-    virtual FileText read(std::string_view path) const = 0;
+    // The whole file. Whatever becomes of the file later, the text stays.
+    virtual FileText read(std::string_view path, ReadErrors errors = ReadErrors::fail) const = 0;
 
     // Opens for writing anew: a file of that name is emptied, whatever its letters' case.
     virtual std::unique_ptr<OutputFile> create(std::string_view path) = 0;

@@ -1,5 +1,6 @@
 #include "scenario/stage.h"
 
+#include <new>
 #include <utility>
 
 #include "platform/fatal_failure.h"
@@ -28,6 +29,10 @@ void Stage::play(const Step& step) {
         running_.reset();
         fatal_ = {step.place, failure.what()};
         errors_(failure.what());
+    } catch (const std::bad_alloc&) {
+        running_.reset();
+        fatal_ = {step.place, "The memory is exhausted."};
+        errors_(fatal_->sentence);
     } catch (const Unmet& unmet) {
         throw Unmet(step.place + ": " + unmet.what());
     }

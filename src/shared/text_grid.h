@@ -36,7 +36,8 @@ class RowCells {
 
 class TextGrid {
   public:
-    // Behind every cell of a row read from the grid stand this many bytes that may be read, too.
+    // Behind every cell of a row read from the grid stand this many bytes that may be read, too; an
+    // empty cell may have no place at all.
     static constexpr std::size_t slack = 16;
 
     explicit TextGrid(int columns) : columns_(columns) {}
@@ -90,7 +91,7 @@ class TextGrid {
     int columns_;
     std::vector<Place> rows_;
     FileText base_;
-    std::vector<std::unique_ptr<char[]>> own_;  // changed rows: see OwnRow in the source
+    std::vector<std::unique_ptr<char[]>> own_;  // changed rows: see OwnHead in the source
 };
 
 }  // namespace brooklander

@@ -1,6 +1,7 @@
 #include "platform/files/host_files.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/fatal_failure.h"
 #include "platform/files/name_pattern.h"
@@ -90,7 +91,8 @@ TEST_F(HostFileRules, NamesThatNoFileMayHaveFail) {
         EXPECT_THROW(files_.create("c:\\" + std::string(name)), FatalFailure) << name;
     }
     EXPECT_THROW(files_.read("q:\\a"), FatalFailure);
-    EXPECT_THROW(files_.read(""), FatalFailure);
+    EXPECT_EQ(failure_of([&] { files_.create(""); }),
+              "\"\" is no path to a file: no name is given.");
 }
 
 TEST_F(HostFileRules, APathWithoutADriveIsTakenFromTheCurrentDirectory) {
@@ -169,6 +171,31 @@ TEST_F(HostFileRules, FailuresNameTheFileAndTheCause) {
               "\"c:\\folder\" cannot be opened for writing: Is a directory.");
     EXPECT_EQ(failure_of([&] { files_.files_in("c:\\none", "*"); }),
               "\"c:\\none\" cannot be listed: No such file or directory.");
+}
+
+TEST_F(HostFileRules, AFailureWhileReadingIsAFailureOrTheEndOfTheText) {
+    fs::create_symlink("/proc/self/mem", folder_.path() / "mem.txt");
+    EXPECT_EQ(failure_of([&] { files_.read("c:\\mem.txt"); }),
+              "\"c:\\mem.txt\" cannot be read: Input/output error.");
+    EXPECT_EQ(files_.read("c:\\mem.txt", ReadErrors::end_text).size(), 0U);
+}
+
+TEST_F(HostFileRules, AFileIsCutBackBehindWhatItHeldAndWrittenOnFromThere) {
+    folder_.write("a.txt", "one");
+    const auto file = files_.append("c:\\a.txt");
+    file->write("two three");
+    file->cut_back(3);
+    file->write("four");
+    file->close();
+    EXPECT_EQ(folder_.read("a.txt"), "onetwofour");
+}
+
+TEST_F(HostFileRules, OnlyRegularFilesAndLinksToThemAreListed) {
+    folder_.write("a.txt", "");
+    ASSERT_EQ(mkfifo((folder_.path() / "pipe.txt").c_str(), 0600), 0);
+    fs::create_symlink("nowhere", folder_.path() / "dangling.txt");
+    fs::create_symlink("a.txt", folder_.path() / "link.txt");
+    EXPECT_EQ(files_.files_in("c:\\", "*.txt*"), (Names{"a.txt", "link.txt"}));
 }
 
 TEST_F(HostFileRules, AFullDiskIsToldAsOne) {

@@ -58,10 +58,13 @@ class FaultyFiles : public HostFiles {
         void write(std::string_view bytes) override {
             ++files_.writes;
             for (const int failing : files_.failing_writes) {
-                if (failing == files_.writes) throw FatalFailure("The disk is full.");
+                if (failing != files_.writes) continue;
+                file_->write(bytes.substr(0, bytes.size() / 2));
+                throw FatalFailure("The disk is full.");
             }
             file_->write(bytes);
         }
+        void cut_back(std::uint64_t bytes) override { file_->cut_back(bytes); }
         void close() override { file_->close(); }
 
       private:

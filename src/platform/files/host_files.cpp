@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "platform/code_page.h"
@@ -42,12 +43,22 @@ OpenFile open_file(const fs::path& file, const char* mode) {
 
 class HostOutputFile : public OutputFile {
   public:
-    HostOutputFile(OpenFile file, std::string shown)
-        : file_(std::move(file)), shown_(std::move(shown)) {}
+    HostOutputFile(OpenFile file, fs::path path, std::string shown)
+        : file_(std::move(file)), path_(std::move(path)), shown_(std::move(shown)) {
+        std::error_code fault;
+        const auto size = fs::file_size(path_, fault);
+        held_before_ = fault ? 0 : size;
+    }
 
     void write(std::string_view bytes) override {
         const std::size_t written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get());
         if (written < bytes.size()) fail(shown_, "written", last_error());
+    }
+
+    void cut_back(std::uint64_t bytes) override {
+        std::error_code ignored;
+        fs::resize_file(path_, held_before_ + bytes, ignored);
+        std::fseek(file_.get(), 0, SEEK_END);
     }
 
     void close() override {
@@ -56,7 +67,9 @@ class HostOutputFile : public OutputFile {
 
   private:
     OpenFile file_;
+    fs::path path_;
     std::string shown_;
+    std::uintmax_t held_before_ = 0;
 };
 
 // The names in a folder that pass a test, by name without regard to case.
@@ -99,6 +112,28 @@ bool is_folder(const fs::path& path) {
     return fs::is_directory(path, ignored);
 }
 
+FileText read_to_end(std::FILE* opened, const fs::path& file, const std::string& shown,
+                     ReadErrors errors) {
+    std::error_code ignored;
+    const auto told_size = fs::file_size(file, ignored);
+    std::size_t capacity = (ignored ? 0 : static_cast<std::size_t>(told_size)) + FileText::slack;
+    auto bytes = memory_for_text(capacity);
+    std::size_t size = 0;
+    for (;;) {
+        const std::size_t got = std::fread(bytes.get() + size, 1, capacity - size, opened);
+        const std::error_code fault = last_error();
+        size += got;
+        if (std::ferror(opened) != 0 && errors == ReadErrors::fail) fail(shown, "read", fault);
+        if (capacity - size < FileText::slack) {
+            capacity *= 2;
+            auto larger = memory_for_text(capacity);
+            std::copy_n(bytes.get(), size, larger.get());
+            bytes = std::move(larger);
+        }
+        if (got == 0) return {std::move(bytes), size};
+    }
+}
+
 }  // namespace
 
 HostFiles::HostFiles(fs::path drive_c) : paths_(std::move(drive_c)) {}
@@ -126,8 +161,8 @@ bool HostFiles::make_folder(std::string_view path) {
     }
 }
 
-FileText HostFiles::read(std::string_view path) const {
-    return read_host_file(host_path(path), to_utf8(path));
+FileText HostFiles::read(std::string_view path, ReadErrors errors) const {
+    return read_host_file(host_path(path), to_utf8(path), errors);
 }
 
 std::unique_ptr<OutputFile> HostFiles::create(std::string_view path) { return open(path, "wb"); }
@@ -135,9 +170,10 @@ std::unique_ptr<OutputFile> HostFiles::create(std::string_view path) { return op
 std::unique_ptr<OutputFile> HostFiles::append(std::string_view path) { return open(path, "ab"); }
 
 std::unique_ptr<OutputFile> HostFiles::open(std::string_view path, const char* mode) const {
-    OpenFile file = open_file(host_path(path), mode);
+    fs::path host = host_path(path);
+    OpenFile file = open_file(host, mode);
     if (!file) fail(to_utf8(path), "opened for writing", last_error());
-    return std::make_unique<HostOutputFile>(std::move(file), to_utf8(path));
+    return std::make_unique<HostOutputFile>(std::move(file), std::move(host), to_utf8(path));
 }
 
 void HostFiles::remove(std::string_view path) {
@@ -165,7 +201,8 @@ std::vector<std::string> HostFiles::files_in(std::string_view path,
                                              std::string_view pattern) const {
     return names_in(host_path(path), to_utf8(path),
                     [pattern](const fs::directory_entry& entry, const std::string& name) {
-                        return name_matches(name, pattern) && !is_folder(entry.path());
+                        std::error_code ignored;
+                        return name_matches(name, pattern) && entry.is_regular_file(ignored);
                     });
 }
 
@@ -178,25 +215,14 @@ fs::path home_folder() {
     return home != nullptr && *home != '\0' ? fs::path(home) : fs::path("/");
 }
 
-FileText read_host_file(const fs::path& file, const std::string& shown) {
+FileText read_host_file(const fs::path& file, const std::string& shown, ReadErrors errors) {
     if (is_folder(file)) fail(shown, "read", std::make_error_code(std::errc::is_a_directory));
     const OpenFile opened = open_file(file, "rb");
     if (!opened) fail(shown, "opened", last_error());
-    std::error_code ignored;
-    const auto told_size = fs::file_size(file, ignored);
-    std::size_t capacity = (ignored ? 0 : static_cast<std::size_t>(told_size)) + FileText::slack;
-    auto bytes = memory_for_text(capacity);
-    std::size_t size = 0;
-    for (;;) {
-        const std::size_t got = std::fread(bytes.get() + size, 1, capacity - size, opened.get());
-        size += got;
-        if (capacity - size < FileText::slack) {
-            capacity *= 2;
-            auto larger = memory_for_text(capacity);
-            std::copy_n(bytes.get(), size, larger.get());
-            bytes = std::move(larger);
-        }
-        if (got == 0) return {std::move(bytes), size};
+    try {
+        return read_to_end(opened.get(), file, shown, errors);
+    } catch (const std::bad_alloc&) {
+        fail(shown, "read", std::make_error_code(std::errc::not_enough_memory));
     }
 }
 

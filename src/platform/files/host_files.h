@@ -16,7 +16,7 @@ class HostFiles : public Files {
     std::string current_directory() const override;
     void change_directory(std::string_view path) override;
     bool make_folder(std::string_view path) override;
-    FileText read(std::string_view path) const override;
+    FileText read(std::string_view path, ReadErrors errors = ReadErrors::fail) const override;
     std::unique_ptr<OutputFile> create(std::string_view path) override;
     std::unique_ptr<OutputFile> append(std::string_view path) override;
     void remove(std::string_view path) override;
@@ -40,6 +40,7 @@ std::filesystem::path home_folder();
 
 // The whole of a host file, as Files::read() gives it; `shown` is its name in a failure's sentence,
 // in UTF-8.
-FileText read_host_file(const std::filesystem::path& file, const std::string& shown);
+FileText read_host_file(const std::filesystem::path& file, const std::string& shown,
+                        ReadErrors errors = ReadErrors::fail);
 
 }  // namespace brooklander

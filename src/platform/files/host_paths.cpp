@@ -51,9 +51,10 @@ fs::path host_name(const std::string& name) {
 // The name in a folder that a name means, which must not be there as it is spelled.
 std::optional<fs::path> other_spelling(const fs::path& folder, const std::string& name) {
     std::optional<fs::path> found;
-    std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(folder, ignored)) {
-        const fs::path candidate = entry.path().filename();
+    std::error_code fault;
+    fs::directory_iterator entry(folder, fault);
+    for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
+        const fs::path candidate = entry->path().filename();
         const std::string spelled = program_name(candidate);
         if (spelled.empty() || !same_but_for_case(spelled, name)) continue;
         if (!found || candidate < *found) found = candidate;
@@ -78,6 +79,7 @@ ProgramPath HostPaths::parse(std::string_view path) const {
     const auto fail = [path](const std::string& cause) {
         throw FatalFailure("\"" + to_utf8(path) + "\" is no path to a file: " + cause + ".");
     };
+    if (path.empty()) fail("no name is given");
     if (parsed.drive != home_drive && parsed.drive != whole_drive) {
         fail("there is no drive " + to_utf8(path.substr(0, 2)));
     }
