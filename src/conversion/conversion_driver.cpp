@@ -86,8 +86,8 @@ void cmdFormatConfirm_Click(Screens& screens, Files& files) {
     LineWriter writer(files.append(display.txtSave.text()));
 
     const Assignment assignment = assignment_of(display);
-    const ActivityDefaults defaults = activity_defaults_of(screens);
-    RowFields fields(assignment, defaults, display.txtActivityID.text());
+    const ActivityDefaults activityDefaults = activity_defaults_of(screens);
+    RowFields fields(assignment, activityDefaults, display.txtActivityID.text());
     check_data_rows(table, assignment, fields);
     read_first_row(table, assignment, fields);
 

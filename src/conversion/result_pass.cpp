@@ -46,58 +46,60 @@ bool ResultPass::rewrites_what_rows_read() const {
 
 void ResultPass::run() {
     last_cell_ = {};
-    for (int row = first_row_visited; row < table_.rows(); ++row) visit(row);
+    for (int rowCursor = first_row_visited; rowCursor < table_.rows(); ++rowCursor)
+        visit(rowCursor);
 }
 
-void ResultPass::visit(int row) {
-    table_.read_row(row, cells_);
+void ResultPass::visit(int rowCursor) {
+    table_.read_row(rowCursor, cells_);
     changed_ = false;
-    const BlockText& piece = row_piece(row);
+    const BlockText& piece = row_piece(rowCursor);
     try {
-        write_results(row, piece);
+        write_results(rowCursor, piece);
     } catch (const FatalFailure&) {
-        put_back(row, piece);
+        put_back(rowCursor, piece);
         throw;
     }
-    put_back(row, piece);
+    put_back(rowCursor, piece);
 }
 
-const BlockText& ResultPass::row_piece(int row) {
-    if (const auto found = remembered_.find(row); found != remembered_.end()) return found->second;
-    if (row < assignment_.first_row) return fields_.none();
-    return fields_.read(cells_, row - assignment_.first_row + 1, changed_);
+const BlockText& ResultPass::row_piece(int rowCursor) {
+    if (const auto found = remembered_.find(rowCursor); found != remembered_.end())
+        return found->second;
+    if (rowCursor < assignment_.first_row) return fields_.none();
+    return fields_.read(cells_, rowCursor - assignment_.first_row + 1, changed_);
 }
 
-void ResultPass::write_results(int row, const BlockText& piece) {
-    int column = assignment_.first_result;
+void ResultPass::write_results(int rowCursor, const BlockText& piece) {
+    int columnCursor = assignment_.first_result;
     for (const CharacteristicPieces& characteristic : characteristics_) {
-        if (column >= table_.columns()) {
+        if (columnCursor >= table_.columns()) {
             throw FatalFailure("The configuration has " + std::to_string(characteristics_.size()) +
                                " characteristics, and the table has fewer columns than that from "
                                "the first column of results on.");
         }
-        last_cell_ = {row, column};
-        const std::string_view cell = cells_[column];
+        last_cell_ = {rowCursor, columnCursor};
+        const std::string_view cell = cells_[columnCursor];
         const ResultValue value = result_value(cell);
         if (value.cell.data() != cell.data() && value.cell != cell) {
-            cells_.set(column, value.cell);
+            cells_.set(columnCursor, value.cell);
             changed_ = true;
         }
         if (!value.written.empty()) {
-            if (row >= conversion_row_limit) {
+            if (rowCursor >= conversion_row_limit) {
                 throw FatalFailure("A table can be converted up to row " +
                                    std::to_string(conversion_row_limit) + " only.");
             }
             writer_.put_line(piece, characteristic.before, value.written, characteristic.behind);
         }
-        ++column;
+        ++columnCursor;
     }
 }
 
-void ResultPass::put_back(int row, const BlockText& piece) {
+void ResultPass::put_back(int rowCursor, const BlockText& piece) {
     if (!changed_) return;
-    table_.write_row(row, cells_);
-    if (remembers_) remembered_.try_emplace(row, piece);
+    table_.write_row(rowCursor, cells_);
+    if (remembers_) remembered_.try_emplace(rowCursor, piece);
 }
 
 std::size_t ResultPass::last_characteristic() const {

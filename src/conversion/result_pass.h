@@ -33,10 +33,10 @@ class ResultPass {
 
   private:
     bool rewrites_what_rows_read() const;
-    void visit(int row);
-    const BlockText& row_piece(int row);
-    void write_results(int row, const BlockText& piece);
-    void put_back(int row, const BlockText& piece);
+    void visit(int rowCursor);
+    const BlockText& row_piece(int rowCursor);
+    void write_results(int rowCursor, const BlockText& piece);
+    void put_back(int rowCursor, const BlockText& piece);
 
     Grid& table_;
     const Assignment& assignment_;

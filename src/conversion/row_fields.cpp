@@ -32,15 +32,15 @@ RowFields::RowFields(const Assignment& assignment, const ActivityDefaults& defau
                                   defaults.gear, defaults.gear_configuration, defaults.transport})),
       behind_person_("~" + delimited({defaults.project})) {}
 
-const BlockText& RowFields::read(RowCells& cells, int number, bool& changed) {
+const BlockText& RowFields::read(RowCells& cells, int activitySequence, bool& changed) {
     FromRow row;
-    row.station = cells[assignment_.station];
-    row.date = cells[assignment_.date];
-    row.time = repaired_time(cells, changed);
-    row.activity_id = activity_id(cells, number, changed);
-    row.depth = depth(cells);
-    if (assignment_.comments) row.comments = trim(cells[*assignment_.comments]);
-    if (assignment_.person) row.person = trim(cells[*assignment_.person]);
+    row.stationByRow = cells[assignment_.station];
+    row.dateByRow = cells[assignment_.date];
+    row.timeByRow = repaired_time(cells, changed);
+    row.activityIdByRow = activity_id(cells, activitySequence, changed);
+    row.depthByRow = depth(cells);
+    if (assignment_.comments) row.commentsByRow = trim(cells[*assignment_.comments]);
+    if (assignment_.person) row.personByRow = trim(cells[*assignment_.person]);
     return piece_of(row);
 }
 
@@ -66,11 +66,11 @@ int RowFields::filled_column() const {
     return assignment_.time.value_or(assignment_.date) == 0 ? 0 : -1;
 }
 
-std::string_view RowFields::activity_id(RowCells& cells, int number, bool& changed) {
+std::string_view RowFields::activity_id(RowCells& cells, int activitySequence, bool& changed) {
     const int filled = filled_column();
     const bool fills = filled >= 0 && cells[filled].empty();
     if (fills || !assignment_.sample) {
-        generated_id_.assign(filler_ + std::to_string(number));
+        generated_id_.assign(filler_ + std::to_string(activitySequence));
     }
     if (fills) {
         cells.set(filled, generated_id_.view());
@@ -100,10 +100,10 @@ int RowFields::last_column_read() const {
 const BlockText& RowFields::piece_of(const FromRow& row) {
     piece_.clear();
     for (const std::string_view part :
-         {up_to_station_.view(), row.station, station_to_date_.view(), row.date, delimiter_.view(),
-          row.time, time_to_id_.view(), row.activity_id, delimiter_.view(), row.comments,
-          comments_to_depth_.view(), row.depth, depth_to_person_.view(), row.person,
-          behind_person_.view()}) {
+         {up_to_station_.view(), row.stationByRow, station_to_date_.view(), row.dateByRow,
+          delimiter_.view(), row.timeByRow, time_to_id_.view(), row.activityIdByRow,
+          delimiter_.view(), row.commentsByRow, comments_to_depth_.view(), row.depthByRow,
+          depth_to_person_.view(), row.personByRow, behind_person_.view()}) {
         piece_.append_readable(part);
     }
     return piece_;

@@ -20,9 +20,9 @@ class RowFields {
     // of three characters is repaired and a blank activity id filled in the cells; `changed` then
     // becomes true. The texts put into the cells live until the next call.
     //
-    // The row's number among the data rows, counted from 1, is the number of a generated id,
-    // whether or not a row before it needed one.
-    const BlockText& read(RowCells& cells, int number, bool& changed);
+    // `activitySequence` is the row's number among the data rows, counted from 1, and the number of
+    // a generated id, whether or not a row before it needed one.
+    const BlockText& read(RowCells& cells, int activitySequence, bool& changed);
 
     // The piece for rows above the first data row: all that comes from a row is empty, and so is
     // what otherwise stands for a depth that is not given, so that their lines are two tildes
@@ -38,17 +38,17 @@ class RowFields {
 
   private:
     struct FromRow {
-        std::string_view station;
-        std::string_view date;
-        std::string_view time;
-        std::string_view activity_id;
-        std::string_view depth;  // with its unit and the tilde behind each
-        std::string_view comments;
-        std::string_view person;
+        std::string_view stationByRow;
+        std::string_view dateByRow;
+        std::string_view timeByRow;
+        std::string_view activityIdByRow;
+        std::string_view depthByRow;  // with its unit and the tilde behind each
+        std::string_view commentsByRow;
+        std::string_view personByRow;
     };
 
     std::string_view repaired_time(RowCells& cells, bool& changed);
-    std::string_view activity_id(RowCells& cells, int number, bool& changed);
+    std::string_view activity_id(RowCells& cells, int activitySequence, bool& changed);
     std::string_view depth(const RowCells& cells);
     const BlockText& piece_of(const FromRow& row);
 
