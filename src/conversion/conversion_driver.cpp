@@ -23,8 +23,8 @@ void prepare(FrmImportFileDisplay& display) {
 }
 
 // What reading the rows' fields does once for all rows: it fails where it cannot be done, before
-// anything is written, and leaves the current cell where it stopped.
-void check_data_rows(Grid& table, const Assignment& assignment, const RowFields& fields) {
+// anything is written, and leaves the current cell where it stopped. The order is that of reading.
+void check_data_rows(Grid& table, const Assignment& assignment) {
     const int last_row = table.rows() - 1;
     if (assignment.first_row > last_row) return;
     if (last_row >= conversion_row_limit) {
@@ -42,7 +42,6 @@ void check_data_rows(Grid& table, const Assignment& assignment, const RowFields&
     visit(assignment.depth);
     visit(assignment.comments);
     visit(assignment.person);
-    visit(fields.last_column_read());
 }
 
 // Row 0 can be a data row, but never has results: only what reading it changes is left of it, and
@@ -88,7 +87,7 @@ void cmdFormatConfirm_Click(Screens& screens, Files& files) {
     const Assignment assignment = assignment_of(display);
     const ActivityDefaults activityDefaults = activity_defaults_of(screens);
     RowFields fields(assignment, activityDefaults, display.txtActivityID.text());
-    check_data_rows(table, assignment, fields);
+    check_data_rows(table, assignment);
     read_first_row(table, assignment, fields);
 
     const bool under_configuration = !screens.frmPreferences.optVox.on();

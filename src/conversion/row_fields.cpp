@@ -88,14 +88,6 @@ std::string_view RowFields::depth(const RowCells& cells) {
     return trim(depth_.view());
 }
 
-int RowFields::last_column_read() const {
-    if (assignment_.person) return *assignment_.person;
-    if (assignment_.comments) return *assignment_.comments;
-    if (assignment_.depth) return *assignment_.depth;
-    if (assignment_.sample) return *assignment_.sample;
-    return assignment_.time.value_or(assignment_.date);
-}
-
 // The depth carries its own delimiters.
 const BlockText& RowFields::piece_of(const FromRow& row) {
     piece_.clear();

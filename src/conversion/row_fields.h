@@ -33,9 +33,6 @@ class RowFields {
     int repaired_column() const { return assignment_.time.value_or(-1); }
     int filled_column() const;
 
-    // The column that read() looks at last.
-    int last_column_read() const;
-
   private:
     struct FromRow {
         std::string_view stationByRow;

@@ -79,7 +79,6 @@ class Grid : public PlacedField {
     GridCell current() const { return current_; }
     void make_current(GridCell cell);
     std::string_view current_text() const { return cell(current_.row, current_.column); }
-    void set_current_text(std::string_view text) { set_cell(current_.row, current_.column, text); }
 
     int fixed_rows() const { return fixed_rows_; }
     int fixed_columns() const { return fixed_columns_; }

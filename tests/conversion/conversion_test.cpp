@@ -121,9 +121,7 @@ class ConversionUnderAConfiguration : public testing::Test {
         program_.view(table);
         program_.screens().frmPreferences.lblSelectedFile.set_text("lake.txt");
         program_.go_to_columns(false);
-        program_.assign(import_.cmdStation, 0);
-        program_.assign(import_.cmdDate, 1);
-        program_.assign(import_.cmdResults, 2);
+        program_.assign_station_date_and_results();
     }
 
     TestProgram program_;
@@ -202,9 +200,7 @@ TEST_F(ConversionUnderAConfiguration, ADefaultsFileThatIsAFolderIsAsOneThatIsMis
     program_.view(small_table(2, 2));
     program_.screens().frmPreferences.lblSelectedFile.set_text("lake.txt");
     program_.go_to_columns(false);
-    program_.assign(import_.cmdStation, 0);
-    program_.assign(import_.cmdDate, 1);
-    program_.assign(import_.cmdResults, 2);
+    program_.assign_station_date_and_results();
     program_.convert(1);
     EXPECT_EQ(program_.output(), "");
     EXPECT_TRUE(import_.frameConverted.visible());
@@ -215,9 +211,7 @@ class ConversionForTheModule : public testing::Test {
     void prepare(std::string_view table) {
         program_.view(table);
         program_.go_to_columns();
-        program_.assign(import_.cmdStation, 0);
-        program_.assign(import_.cmdDate, 1);
-        program_.assign(import_.cmdResults, 2);
+        program_.assign_station_date_and_results();
     }
 
     TestProgram program_;

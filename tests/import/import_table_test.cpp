@@ -43,9 +43,7 @@ TEST(ImportTable, TheFileMayBeTheOutputFile) {
     program.start_screen().cmdView.press();
     program.go_to_columns();
     EXPECT_EQ(program.folder.read("brooklander/voxoutfiles/again.txt"), "");
-    program.assign(program.import_screen().cmdStation, 0);
-    program.assign(program.import_screen().cmdDate, 1);
-    program.assign(program.import_screen().cmdResults, 2);
+    program.assign_station_date_and_results();
     program.convert(1);
     EXPECT_EQ(program.folder.read("brooklander/voxoutfiles/again.txt"),
               "~S1~~D1~~~-1~~~~~~~~~~~~~A~~~~~~~~~~7~~~\r\n");

@@ -113,6 +113,13 @@ struct TestProgram {
         table().click_cell({0, column});
     }
 
+    // The least that a table of station, date and results needs.
+    void assign_station_date_and_results() {
+        assign(import_screen().cmdStation, 0);
+        assign(import_screen().cmdDate, 1);
+        assign(import_screen().cmdResults, 2);
+    }
+
     // From the columns to the converted file.
     void convert(int first_row) {
         import_screen().cmdContinue.press();
