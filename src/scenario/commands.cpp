@@ -92,13 +92,14 @@ Step ended_step(const Arguments& arguments) {
     return {{}, Works::after_start, false, [](Stage& stage) { stage.expect_ended(); }};
 }
 
-// Undrawn, there is nothing to take a picture of.
 Step shot_step(const Arguments& arguments) {
     arguments.want(1);
     if (arguments.text(0).find_first_of("/\\") != std::string::npos) {
         throw WrongLine("A picture's name has no folder.");
     }
-    return {{}, Works::while_running, false, [](Stage&) {}};
+    return {{}, Works::while_running, false, [name = arguments.text(0)](Stage& stage) {
+                stage.front().take_picture(name);
+            }};
 }
 
 struct Command {

@@ -1,7 +1,7 @@
 #include "scenario/arguments.h"
 #include "scenario/scenario_error.h"
 #include "scenario/stage.h"
-#include "scenario/user.h"
+#include "scenario/user_words.h"
 #include "shared/data_source.h"
 #include "shared/place_lists.h"
 

@@ -8,8 +8,11 @@
 
 namespace brooklander::scenario {
 
-Stage::Stage(std::filesystem::path home, Teller output, Teller errors)
-    : home_(std::move(home)), output_(std::move(output)), errors_(std::move(errors)) {}
+Stage::Stage(std::filesystem::path home, FrontMaker make_front, Teller output, Teller errors)
+    : home_(std::move(home)),
+      make_front_(std::move(make_front)),
+      output_(std::move(output)),
+      errors_(std::move(errors)) {}
 
 void Stage::play(const std::vector<Step>& steps) {
     for (const Step& step : steps) play(step);
@@ -25,6 +28,7 @@ void Stage::play(const Step& step) {
             running_.reset();
             ended_ = true;
         }
+        if (running_) running_->front->check();
     } catch (const FatalFailure& failure) {
         running_.reset();
         fatal_ = {step.place, failure.what()};
@@ -52,8 +56,8 @@ void Stage::start() {
     if (running()) throw Unmet("The program is running already.");
     started_ = true;
     ended_ = false;
-    running_ = std::make_unique<RunningProgram>(home_);
-    running_->program.start();
+    running_ = std::make_unique<RunningProgram>(home_, make_front_);
+    running_->front->start(running_->program);
 }
 
 Field& Stage::field(std::string_view path) const { return *running_->names.find(path); }

@@ -13,24 +13,23 @@
 #include "platform/files/host_files.h"
 #include "program.h"
 #include "scenario/field_names.h"
+#include "scenario/front.h"
 #include "scenario/script.h"
 
 namespace brooklander::scenario {
 
-// Files of help that were asked for are shown to nobody here.
-class NoHelp : public Help {
-  public:
-    void show(std::string_view /*path*/) override {}
-};
-
 // A program that runs, with the machine that it runs on.
 struct RunningProgram {
-    explicit RunningProgram(const std::filesystem::path& home) : files(home) {}
+    RunningProgram(const std::filesystem::path& home, const FrontMaker& make_front)
+        : files(home), front(make_front(files)) {}
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+    ~RunningProgram() { front->end(); }
 
     HostFiles files;
     OpenDatabase database;
-    NoHelp help;
-    Program program{{files, database, help}};
+    std::unique_ptr<Front> front;
+    Program program{{files, database, front->help()}};
     FieldNames names{program.screens()};
 };
 
@@ -40,7 +39,7 @@ class Stage {
 
     // `home` stands for drive `c:`. What is printed goes to `output`, the sentence of a fatal
     // failure to `errors`, both in UTF-8, a line at a time.
-    Stage(std::filesystem::path home, Teller output, Teller errors);
+    Stage(std::filesystem::path home, FrontMaker make_front, Teller output, Teller errors);
 
     // Plays the steps of a file. Throws Unmet, with the place before its sentence, at the first
     // that fails.
@@ -50,6 +49,7 @@ class Stage {
     void start();
     bool running() const { return running_ != nullptr; }
     Field& field(std::string_view path) const;
+    Front& front() const { return *running_->front; }
     std::filesystem::path host_path(std::string_view path) const;
     void print(const std::string& line) const { output_(line); }
     void expect_fatal();
@@ -66,6 +66,7 @@ class Stage {
     void fail_for_fatal() const;
 
     std::filesystem::path home_;
+    FrontMaker make_front_;
     Teller output_;
     Teller errors_;
     std::unique_ptr<RunningProgram> running_;

@@ -3,7 +3,8 @@
 #include "scenario/arguments.h"
 #include "scenario/scenario_error.h"
 #include "scenario/stage.h"
-#include "scenario/user.h"
+#include "scenario/undrawn_front.h"
+#include "scenario/user_words.h"
 #include "shared/place_lists.h"
 
 namespace brooklander::scenario {
@@ -16,13 +17,13 @@ using enum FieldKind;
 struct UserAct {
     std::string field;
     std::function<void(Field&)> check;
-    std::function<void(Field&)> act;
+    std::function<void(Front&, Field&)> act;
 };
 
 UserAct click_act(const Arguments& arguments) {
     arguments.want(1);
     return {arguments.field(0, {button, menu_entry, option, tick_box, text_box}), [](Field&) {},
-            [](Field& field) { click(field); }};
+            [](Front& front, Field& field) { front.click(field); }};
 }
 
 UserAct type_act(const Arguments& arguments) {
@@ -33,7 +34,7 @@ UserAct type_act(const Arguments& arguments) {
         throw WrongLine("A character that no key types stands in the text.");
     }
     return {arguments.field(0, {text_box}), [](Field&) {},
-            [text](Field& field) { static_cast<TextBox&>(field).type(text); }};
+            [text](Front& front, Field& field) { front.type(static_cast<TextBox&>(field), text); }};
 }
 
 UserAct select_act(const Arguments& arguments) {
@@ -41,24 +42,27 @@ UserAct select_act(const Arguments& arguments) {
     const std::string& entry = arguments.text(1);
     return {arguments.field(0, {list, pick_list, drive_list, folder_list, file_list}),
             [entry](Field& field) { entry_index(static_cast<EntryList&>(field), entry); },
-            [entry](Field& field) {
+            [entry](Front& front, Field& field) {
                 auto& entries = static_cast<EntryList&>(field);
-                entries.click_entry(entry_index(entries, entry));
+                front.click_entry(entries, entry_index(entries, entry));
             }};
 }
 
 UserAct cell_act(const Arguments& arguments) {
     arguments.want(3);
     const GridCell cell{arguments.number(1, "row"), arguments.number(2, "column")};
-    return {arguments.field(0, {grid}),
-            [cell](Field& field) { want_cell(static_cast<Grid&>(field), cell); },
-            [cell](Field& field) { static_cast<Grid&>(field).click_cell(cell); }};
+    return {
+        arguments.field(0, {grid}),
+        [cell](Field& field) { want_cell(static_cast<Grid&>(field), cell); },
+        [cell](Front& front, Field& field) { front.click_cell(static_cast<Grid&>(field), cell); }};
 }
 
 UserAct keys_act(const Arguments& arguments) {
     arguments.want(2);
     return {arguments.field(0, {grid, text_box}), [](Field&) {},
-            [keys = keys_in(arguments.text(1))](Field& field) { press_keys(field, keys); }};
+            [keys = keys_in(arguments.text(1))](Front& front, Field& field) {
+                front.press_keys(field, keys);
+            }};
 }
 
 UserAct act_of(const std::string& verb, const Arguments& arguments) {
@@ -102,7 +106,7 @@ Step user_step(const std::string& verb, const Arguments& arguments) {
         if (!field.usable()) {
             throw Unmet("A user cannot do that to " + field.path() + ": " + obstacle(field) + ".");
         }
-        user.act(field);
+        user.act(stage.front(), field);
     });
 }
 
@@ -118,7 +122,8 @@ Step force_step(const Arguments& arguments) {
     return while_running([user = inner_act(arguments, "force")](Stage& stage) {
         Field& field = stage.field(user.field);
         user.check(field);
-        user.act(field);
+        UndrawnFront on_the_field_itself;
+        user.act(on_the_field_itself, field);
     });
 }
 

@@ -57,7 +57,6 @@ expect "no file" 2 '' -- < /dev/null
 expect "an option that is none" 2 '' -- --loud good.scn < /dev/null
 expect "an option without its value" 2 '' -- good.scn --with < /dev/null
 expect "a variable that is no assignment" 2 '' -- --with NAME good.scn < /dev/null
-expect "windows, as long as there are none" 2 '' -- --drawn good.scn < /dev/null
 expect "pictures have a place" 0 '1 passed, 0 failed' -- --shots pictures good.scn < /dev/null
 
 echo "$passed passed, $failed failed"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "scenario/player.h"
 #include "scenario/scenario_error.h"
 #include "support/temporary_folder.h"
 
@@ -14,7 +15,8 @@ class Playing : public testing::Test {
     std::string play(const std::string& text) {
         try {
             Stage stage(
-                folder_.path(), [this](const std::string& line) { output_ += line + "\n"; },
+                folder_.path(), undrawn_front,
+                [this](const std::string& line) { output_ += line + "\n"; },
                 [this](const std::string& line) { errors_ += line + "\n"; });
             stage.play(read_script_text(text, folder_.path() / "here.scn", {}));
             return "";

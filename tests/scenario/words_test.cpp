@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "scenario/scenario_error.h"
-#include "scenario/user.h"
+#include "scenario/user_words.h"
 
 namespace brooklander::scenario {
 namespace {

@@ -1,7 +1,6 @@
-// A user without a screen: does to the fields what a user's hands would do to the windows.
+// What the words of a user's commands mean: entries, cells and keys.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,9 +10,6 @@
 
 namespace brooklander::scenario {
 
-// The kinds that a click means something to.
-void click(Field& field);
-
 // The index of an entry of a list by its text. Throws Unmet when there is none.
 std::size_t entry_index(const EntryList& list, std::string_view entry);
 
@@ -22,7 +18,5 @@ void want_cell(const Grid& grid, GridCell cell);
 
 // Keys as `keys` writes them, `{Enter}` and its like among them. Throws WrongLine.
 std::vector<Key> keys_in(std::string_view text);
-
-void press_keys(Field& field, const std::vector<Key>& keys);
 
 }  // namespace brooklander::scenario

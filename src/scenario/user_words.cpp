@@ -1,4 +1,4 @@
-#include "scenario/user.h"
+#include "scenario/user_words.h"
 
 #include <array>
 #include <utility>
@@ -35,17 +35,6 @@ Key take_named_key(std::string_view& text) {
 
 }  // namespace
 
-void click(Field& field) {
-    switch (field.kind()) {
-        case FieldKind::button: static_cast<Button&>(field).press(); break;
-        case FieldKind::menu_entry: static_cast<MenuEntry&>(field).choose(); break;
-        case FieldKind::option: static_cast<Option&>(field).choose(); break;
-        case FieldKind::tick_box: static_cast<TickBox&>(field).turn_over(); break;
-        case FieldKind::text_box: static_cast<TextBox&>(field).click(); break;
-        default: throw Unmet(field.path() + " cannot be clicked.");
-    }
-}
-
 std::size_t entry_index(const EntryList& list, std::string_view entry) {
     const auto index = list.find(entry);
     if (!index) throw Unmet(list.path() + " has no entry " + in_quotes(entry) + ".");
@@ -73,18 +62,6 @@ std::vector<Key> keys_in(std::string_view text) {
         text.remove_prefix(1);
     }
     return keys;
-}
-
-void press_keys(Field& field, const std::vector<Key>& keys) {
-    if (field.kind() == FieldKind::text_box) {
-        static_cast<TextBox&>(field).press_keys(keys);
-        return;
-    }
-    const bool was_usable = field.usable();
-    for (const Key key : keys) {
-        if (key.name == Key::Name::tab || field.usable() != was_usable) break;
-        static_cast<Grid&>(field).press_key(key);
-    }
 }
 
 }  // namespace brooklander::scenario

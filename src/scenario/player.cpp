@@ -1,4 +1,4 @@
-// The scenario player: plays files of commands on the program's screens.
+#include "scenario/player.h"
 
 #include <algorithm>
 #include <iostream>
@@ -9,6 +9,7 @@
 #include "scenario/scenario_error.h"
 #include "scenario/script.h"
 #include "scenario/stage.h"
+#include "scenario/undrawn_front.h"
 
 namespace brooklander::scenario {
 namespace {
@@ -53,11 +54,12 @@ class Output {
 };
 
 // Plays one file from a fresh program; returns its exit status.
-int play(const std::filesystem::path& file, const Options& options, const Output& output) {
+int play(const std::filesystem::path& file, const Options& options, const FrontMaker& make_front,
+         const Output& output) {
     try {
         const std::vector<Step> steps = read_script(file, options.variables, options.secrets);
         Stage stage(
-            options.home, [&output](const std::string& line) { output.print(line); },
+            options.home, make_front, [&output](const std::string& line) { output.print(line); },
             [&output](const std::string& sentence) { output.tell(sentence); });
         stage.play(steps);
         return all_passed;
@@ -70,8 +72,7 @@ int play(const std::filesystem::path& file, const Options& options, const Output
     }
 }
 
-int play_all(Options options) {
-    Output output;
+int play_all(Options options, const FrontMaker& make_front, Output& output) {
     for (const std::string& name : options.secrets) {
         const std::string value = ask_for_secret(name);
         output.hide(value);
@@ -80,7 +81,7 @@ int play_all(Options options) {
     int worst = all_passed;
     std::size_t passed = 0;
     for (const auto& file : options.files) {
-        const int status = play(file, options, output);
+        const int status = play(file, options, make_front, output);
         worst = std::max(worst, status);
         if (status == all_passed) ++passed;
     }
@@ -88,24 +89,27 @@ int play_all(Options options) {
     return worst;
 }
 
-int run(int argc, char** argv) {
+}  // namespace
+
+std::unique_ptr<Front> undrawn_front(const Files& /*files*/) {
+    return std::make_unique<UndrawnFront>();
+}
+
+int run_player(int argc, char** argv, const DrawnFrontMaker& drawn_front_maker) {
+    Output output;
     try {
         Options options = options_of(argc, argv);
         if (options.help) {
             std::cout << usage() << '\n';
             return all_passed;
         }
-        if (options.drawn) {
-            throw WrongLine("--drawn needs windows, and this program has none yet.");
-        }
-        return play_all(std::move(options));
+        const FrontMaker make_front =
+            options.drawn ? drawn_front_maker(options.shots) : undrawn_front;
+        return play_all(std::move(options), make_front, output);
     } catch (const WrongLine& wrong) {
         std::cerr << wrong.what() << '\n' << usage() << '\n';
         return not_a_scenario;
     }
 }
 
-}  // namespace
 }  // namespace brooklander::scenario
-
-int main(int argc, char** argv) { return brooklander::scenario::run(argc, argv); }

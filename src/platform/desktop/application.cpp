@@ -1,0 +1,26 @@
+#include "platform/desktop/application.h"
+
+#include <QFont>
+
+#include "platform/desktop/theme.h"
+
+namespace brooklander::desktop {
+
+std::unique_ptr<QApplication> make_application(int& argc, char** argv) {
+    auto application = std::make_unique<QApplication>(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("brooklander"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    // Without a desktop there is no font of the desktop's own; pictures then are the same anywhere.
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
+    }
+    dress(*application);
+    return application;
+}
+
+bool has_display() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+}  // namespace brooklander::desktop

@@ -1,0 +1,74 @@
+// Draws the fields of a screen: one function for each kind, which makes the widget, ties it to its
+// field both ways and gives it its accessible name. A widget is a child of the card that its
+// field's panel is drawn as; where it lies there is the layout's matter.
+#pragma once
+
+#include <QHBoxLayout>
+#include <QString>
+#include <initializer_list>
+#include <vector>
+
+#include "platform/desktop/grid_widget.h"
+#include "platform/desktop/list_views.h"
+#include "platform/desktop/plain_views.h"
+#include "platform/desktop/screen_window.h"
+
+namespace brooklander::desktop {
+
+class Windows;
+
+// How a button looks: as one among others, or as the one that moves the work on.
+enum class Weight { quiet, filled };
+
+// No underlined letter.
+inline constexpr char no_letter = '\0';
+
+class Draw {
+  public:
+    Draw(ScreenWindow& window, Windows& windows) : window_(window), windows_(windows) {}
+
+    Card* card(Panel& panel);
+
+    // Labels: a caption says what stands beside it, and underlined, leads to it; a value is one
+    // line; a note is a sentence or more; a heading is the largest text of its window.
+    QLabel* caption(Label& label, char letter = no_letter);
+    ValueLabel* value(Label& label, const QString& name);
+    QLabel* note(Label& label);
+    QLabel* heading(Label& label, qreal larger_by);
+
+    QPushButton* button(Button& button, char letter = no_letter, Weight weight = Weight::quiet);
+    QPushButton* filled(Button& field, char letter) {
+        return button(field, letter, Weight::filled);
+    }
+    QCheckBox* tick_box(TickBox& box, char letter = no_letter);
+    QRadioButton* option(Option& option, char letter = no_letter);
+
+    // Boxes, lists and grids say nothing of themselves: their name is a caption's, whose letter
+    // then leads to them, or a text.
+    QLineEdit* text_box(TextBox& box, QLabel* caption);
+    QLineEdit* text_box(TextBox& box, const QString& name);
+    ListWidget* list(EntryList& list, const QString& name);
+    QComboBox* pick_list(EntryList& list, const QString& name);
+    GridWidget* grid(Grid& grid, const QString& name);
+
+    // A text that is no field.
+    QLabel* text(const QString& text, QWidget* parent);
+
+    QWidget* surface() { return window_.surface(); }
+    ScreenWindow& window() { return window_; }
+
+  private:
+    QWidget* parent_of(const Field& field) const;
+
+    ScreenWindow& window_;
+    Windows& windows_;
+};
+
+// Widgets side by side, with what room is left on one side.
+enum class Side { left, right };
+QHBoxLayout* row(std::initializer_list<QWidget*> widgets, Side packed_to = Side::left);
+
+// Keeps a widget's place free while it is hidden, so that nothing beside it jumps.
+void keep_place(QWidget* widget);
+
+}  // namespace brooklander::desktop

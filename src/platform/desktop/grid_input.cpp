@@ -1,0 +1,152 @@
+// What mouse and keyboard do in a grid.
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QToolTip>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/desktop/grid_widget.h"
+
+namespace brooklander::desktop {
+namespace {
+
+constexpr int border_reach = 3;
+constexpr int narrowest = 16;
+
+constexpr std::array<std::pair<int, Key>, 10> named_keys{{
+    {Qt::Key_Return, {Key::Name::enter}},
+    {Qt::Key_Enter, {Key::Name::enter}},
+    {Qt::Key_Delete, {Key::Name::erase}},
+    {Qt::Key_Backspace, {Key::Name::backspace}},
+    {Qt::Key_Up, {Key::Name::up}},
+    {Qt::Key_Down, {Key::Name::down}},
+    {Qt::Key_Left, {Key::Name::left}},
+    {Qt::Key_Right, {Key::Name::right}},
+    {Qt::Key_Escape, {Key::Name::escape}},
+    {Qt::Key_Space, Key::of(' ')},
+}};
+
+std::optional<Key> key_of(const QKeyEvent& event) {
+    for (const auto& [code, key] : named_keys) {
+        if (code == event.key()) return key;
+    }
+    const bool types = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0 ||
+                       (event.modifiers() & Qt::GroupSwitchModifier) != 0;
+    if (!types || event.text().isEmpty() || !can_be_typed(event.text())) return std::nullopt;
+    return Key::of(typed(event.text()).front());
+}
+
+}  // namespace
+
+int GridWidget::column_at(int x) const {
+    if (x < row_heading_) return -1;
+    for (int column = first_column_; column < columns_; ++column) {
+        if (x < column_left(column) + column_width(column)) {
+            return x >= column_left(column) ? column : -1;
+        }
+    }
+    return -1;
+}
+
+// A heading without a fixed row stands for its column where columns are chosen, a row number for
+// its row where rows are; both are clicked in the first cell in sight.
+std::optional<GridCell> GridWidget::cell_at(QPoint point) const {
+    int column = column_at(point.x());
+    if (point.y() < heading_height()) {
+        if (column < 0) return std::nullopt;
+        if (fixed_rows_ > 0) return GridCell{0, column};
+        if (grid_.selection() != Selection::by_column || page_.empty()) return std::nullopt;
+        return GridCell{page_.front().row, column};
+    }
+    if (point.x() < row_heading_ && grid_.selection() == Selection::by_row) column = first_column_;
+    if (column < 0 || column >= columns_) return std::nullopt;
+    for (const ShownRow& row : page_) {
+        if (point.y() < row.top + row.height) return GridCell{row.row, column};
+    }
+    return std::nullopt;
+}
+
+// The column whose right border in the headings can be dragged at a point.
+std::optional<int> GridWidget::border_at(QPoint point) const {
+    if (point.y() >= heading_height() || point.x() < row_heading_) return std::nullopt;
+    for (int column = first_column_; column < columns_; ++column) {
+        const int border = column_left(column) + column_width(column);
+        if (column_width(column) > 0 && std::abs(point.x() - border) <= border_reach) return column;
+    }
+    return std::nullopt;
+}
+
+void GridWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    dragged_column_ = border_at(event->pos());
+    pressed_ = dragged_column_ ? std::nullopt : cell_at(event->pos());
+}
+
+void GridWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (dragged_column_) {
+        widths_by_hand_[*dragged_column_] =
+            std::max(narrowest, event->pos().x() - column_left(*dragged_column_));
+        measure();
+        read_page();
+        viewport()->update();
+        return;
+    }
+    viewport()->setCursor(border_at(event->pos()) ? Qt::SplitHCursor : Qt::ArrowCursor);
+}
+
+void GridWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    dragged_column_.reset();
+    const auto pressed = std::exchange(pressed_, std::nullopt);
+    if (pressed && cell_at(event->pos()) == pressed && on_click) on_click(*pressed);
+}
+
+void GridWidget::keyPressEvent(QKeyEvent* event) {
+    const bool is_typed_into = static_cast<bool>(grid_.on_key);
+    const bool with_control = (event->modifiers() & Qt::ControlModifier) != 0;
+    GridCell target = current_;
+    if (!is_typed_into && data_rows() > 0) {
+        switch (event->key()) {
+            case Qt::Key_PageUp: target.row -= rows_in_view(); break;
+            case Qt::Key_PageDown: target.row += rows_in_view(); break;
+            case Qt::Key_Home:
+                target.column = 0;
+                if (with_control) target.row = 0;
+                break;
+            case Qt::Key_End:
+                target.column = columns_ - 1;
+                if (with_control) target.row = rows_ - 1;
+                break;
+            default: break;
+        }
+        target.row = std::clamp(target.row, fixed_rows_, rows_ - 1);
+        target.column = std::max(target.column, grid_.fixed_columns());
+        if (!(target == current_) && on_move) {
+            on_move(target);
+            bring_into_view(grid_.current());
+            return;
+        }
+    }
+    if (const auto key = key_of(*event); key && on_key) {
+        on_key(*key);
+        bring_into_view(grid_.current());
+        return;
+    }
+    event->ignore();
+}
+
+bool GridWidget::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    const auto cell = cell_at(help->pos());
+    const QString text = cell ? text_on_screen(*cell).value_or(QString()) : QString();
+    const bool is_cut =
+        cell && fontMetrics().horizontalAdvance(text) > column_width(cell->column) - 16;
+    QToolTip::showText(help->globalPos(), is_cut ? text.toHtmlEscaped() : QString(), viewport());
+    return true;
+}
+
+}  // namespace brooklander::desktop

@@ -1,0 +1,135 @@
+// A grid on the screen: a view of the part of it that fits, so that the number of its rows does not
+// matter.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QColor>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/desktop/field_view.h"
+#include "platform/desktop/theme.h"
+#include "shared/grid.h"
+
+namespace brooklander::desktop {
+
+// What a column's heading says besides its number, and the tint that goes with it.
+struct ColumnMark {
+    QString caption;
+    std::optional<int> tint;
+};
+
+// Rows and columns are those of the grid, from 0. Columns count from 1 in the headings, or are
+// named there by the grid's fixed row; rows count from 1 below that.
+class GridWidget : public QAbstractScrollArea {
+  public:
+    GridWidget(Grid& grid, QWidget* parent);
+
+    // Called with what a user has done.
+    std::function<void(GridCell)> on_click;
+    std::function<void(Key)> on_key;
+    std::function<void(GridCell)> on_move;  // to a cell that is there
+
+    // What stands in place of the rows while there are none.
+    void set_empty_text(const QString& text) { empty_text_ = text; }
+
+    // Tells the columns apart; asked whenever the widget follows its grid.
+    void set_column_marks(std::function<ColumnMark(int column)> marks);
+
+    // Shows the grid as it is now.
+    void follow();
+
+    // As QWidget says; the whole grid seldom fits.
+    QSize sizeHint() const override { return {480, 240}; }
+    QSize minimumSizeHint() const override { return {200, 120}; }
+
+    // Where a cell is in the viewport; a fixed row lies in the headings. Empty when it is not
+    // shown.
+    QRect cell_place(GridCell cell) const;
+
+    // Scrolls until the cell is in the viewport.
+    void bring_into_view(GridCell cell);
+
+    // What stands in a cell on the screen, whole; nothing when it is not shown.
+    std::optional<QString> text_on_screen(GridCell cell) const;
+
+    // What the screen shows otherwise than the grid holds; see FieldView.
+    QString difference() const;
+
+    const Grid& grid() const { return grid_; }
+    int columns_shown_to() const;  // behind the last column that is in the viewport
+    int rows_in_view() const;      // the whole rows that fit
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int x, int y) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    // A row as it stands on the screen.
+    struct ShownRow {
+        int row = 0;
+        int top = 0;
+        int height = 0;
+        std::vector<QString> texts;  // whole, of the columns from first_column_ on
+        std::vector<QString> cut;    // as far as they fit
+    };
+
+    int data_rows() const { return rows_ - fixed_rows_; }
+    int row_pixels(int row) const;
+    int heading_height() const { return row_height_ + 4; }
+    int column_left(int column) const { return row_heading_ + lefts_[std::size_t(column)] - x_; }
+    int column_width(int column) const {
+        return lefts_[std::size_t(column) + 1] - lefts_[std::size_t(column)];
+    }
+    int column_at(int x) const;  // -1 in the row numbers and beyond the last
+    std::optional<GridCell> cell_at(QPoint point) const;
+    std::optional<int> border_at(QPoint point) const;
+    bool is_marked(GridCell cell) const;
+
+    void measure();
+    void measure_columns();
+    void fit_scroll_bars();
+    void read_page();
+    QString heading_of(int column) const;
+    void paint_headings(QPainter& painter, const Colours& colours) const;
+    void paint_row(QPainter& painter, const Colours& colours, const ShownRow& row) const;
+
+    Grid& grid_;
+    std::function<ColumnMark(int)> marks_;
+    std::vector<ColumnMark> column_marks_;
+    QString empty_text_;
+
+    // The grid as it was when the widget last followed it.
+    int rows_ = 0;
+    int columns_ = 0;
+    int fixed_rows_ = 0;
+    int top_row_of_field_ = 0;
+    GridCell current_;
+
+    int row_height_ = 24;
+    int row_heading_ = 0;  // how wide the row numbers are
+    int x_ = 0;            // how far it is scrolled to the right
+    std::vector<int> lefts_{0};
+    std::map<int, int> widths_by_hand_;
+    std::vector<ShownRow> page_;
+    int first_column_ = 0;
+
+    std::optional<GridCell> pressed_;
+    std::optional<int> dragged_column_;
+};
+
+std::unique_ptr<FieldView> grid_view(Grid& grid, GridWidget* widget, Acts& acts);
+
+}  // namespace brooklander::desktop

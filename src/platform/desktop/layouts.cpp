@@ -1,0 +1,18 @@
+#include "platform/desktop/layouts.h"
+
+#include "platform/desktop/windows.h"
+
+namespace brooklander::desktop {
+
+void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& windows) {
+    Draw draw(window, windows);
+    if (&screen == &screens.frmStart) {
+        lay_out_start(screens.frmStart, draw);
+    } else if (&screen == &screens.frmImportFileDisplay) {
+        lay_out_import(screens.frmImportFileDisplay, draw);
+    } else {
+        lay_out_plainly(screen, draw);
+    }
+}
+
+}  // namespace brooklander::desktop

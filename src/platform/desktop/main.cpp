@@ -1,0 +1,46 @@
+// The desktop program.
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+#include "platform/database/open_database.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/failure_box.h"
+#include "platform/desktop/help_window.h"
+#include "platform/desktop/windows.h"
+#include "platform/files/host_files.h"
+#include "program.h"
+
+namespace brooklander::desktop {
+namespace {
+
+constexpr int ended_by_failure = 1;
+
+int run(int argc, char** argv) {
+    const auto application = make_application(argc, argv);
+    HostFiles files(home_folder());
+    OpenDatabase database;
+    HelpWindow help(files);
+    Program program({files, database, help});
+    Windows windows(program.screens());
+
+    // Both can come before the event loop runs, so that they wait for it.
+    const auto exit_with = [](int status) {
+        QMetaObject::invokeMethod(
+            qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+    };
+    windows.on_end = [&exit_with] { exit_with(EXIT_SUCCESS); };
+    windows.on_failure = [&exit_with](const QString& sentence) {
+        std::cerr << sentence.toStdString() << std::endl;
+        FailureBox(sentence).exec();
+        exit_with(ended_by_failure);
+    };
+    windows.act([&program] { program.start(); });
+    return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace brooklander::desktop
+
+int main(int argc, char** argv) { return brooklander::desktop::run(argc, argv); }

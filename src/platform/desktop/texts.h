@@ -1,0 +1,27 @@
+// Texts on their way between fields and widgets.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace brooklander::desktop {
+
+// A field's text, in the code page, as a widget takes it.
+QString shown(std::string_view text);
+
+// What was typed, as fields hold it. A character outside the code page becomes `?`; boxes take
+// none.
+std::string typed(const QString& text);
+
+// Whether every character has a place in the code page, and is no control character.
+bool can_be_typed(const QString& text);
+
+// A caption as buttons and menus take it, with the underlined letter before its first place in the
+// caption, whatever its case; without that letter in it, or with '\0', nothing is underlined.
+QString with_mnemonic(std::string_view caption, char letter);
+
+// The caption that stands behind such a text.
+QString without_mnemonic(const QString& text);
+
+}  // namespace brooklander::desktop

@@ -1,0 +1,21 @@
+// The scenario player: plays files of commands on the program's screens.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+
+#include "scenario/front.h"
+
+namespace brooklander::scenario {
+
+// The front without windows.
+std::unique_ptr<Front> undrawn_front(const Files& files);
+
+// Sets windows up and gives the maker of their fronts, which save pictures in the folder; an empty
+// one wants none. Throws WrongLine, with one sentence, where there can be no windows.
+using DrawnFrontMaker = std::function<FrontMaker(const std::filesystem::path& shots)>;
+
+// Does what the command line says; returns the exit status.
+int run_player(int argc, char** argv, const DrawnFrontMaker& drawn_front_maker);
+
+}  // namespace brooklander::scenario
