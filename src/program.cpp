@@ -3,6 +3,7 @@
 #include "configuration/wiring.h"
 #include "conversion/wiring.h"
 #include "import/wiring.h"
+#include "loggers/wiring.h"
 #include "logon/wiring.h"
 
 namespace brooklander {
@@ -12,6 +13,7 @@ Program::Program(Platform platform) : platform_(platform), screens_(platform.fil
     wire_import(screens_, platform_);
     wire_conversion(screens_, platform_);
     wire_configuration(screens_, platform_);
+    wire_loggers(screens_);
 }
 
 void Program::start() { screens_.frmStart.show(); }

@@ -7,8 +7,10 @@
 namespace brooklander {
 
 struct FrmPreferences : Screen {
-    explicit FrmPreferences(Desk& desk)
-        : Screen(desk, "frmPreferences", "Create Or View Brooklander Configuration Files") {}
+    static constexpr std::string_view title_from_the_menu =
+        "Create Or View Brooklander Configuration Files";
+
+    explicit FrmPreferences(Desk& desk) : Screen(desk, "frmPreferences", title_from_the_menu) {}
 
     MenuEntry mnuExit{*this, "mnuExit", "Exit"};
     MenuEntry mnuHelp{*this, "mnuHelp", "Help"};

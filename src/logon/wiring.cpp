@@ -2,6 +2,7 @@
 
 #include "logon/file_selection.h"
 #include "logon/logon.h"
+#include "logon/menus.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -28,6 +29,8 @@ void wire_logon(Screens& screens, Platform& platform) {
     start.optLogNo.on_click = [&] { start.cmdView.enable(); };
     start.cmdView.on_click = [&] { cmdView_Click(screens, platform.files); };
 
+    start.mnuLogger.on_click = [&] { mnuLogger_Click(screens, platform.database); };
+    start.mnuPreferences.on_click = [&] { mnuPreferences_Click(screens); };
     start.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
     start.mnuAbout.on_click = [&] { start.frameAbout.show(); };
     start.mnuAboutClose.on_click = [&] { start.frameAbout.hide(); };

@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "scenario/player.h"
+#include <sstream>
+
+#include "platform/files/host_files.h"
 #include "scenario/scenario_error.h"
+#include "screens.h"
 #include "support/temporary_folder.h"
 
 namespace brooklander::scenario {
@@ -183,11 +187,21 @@ TEST_F(Playing, PrintingTellsAllThatAFieldHolds) {
 }
 
 TEST_F(Playing, PrintingAScreenTellsEachOfItsFields) {
-    EXPECT_EQ(play_started("print frmPreferencesSampleOption"), "");
+    HostFiles files(folder_.path());
+    const Screens screens(files);
+    const std::vector<Field*>& fields = screens.frmStart.fields();
+    EXPECT_EQ(play_started("print frmStart"), "");
+
+    std::vector<std::string> printed;
+    std::istringstream lines(output_);
+    for (std::string line; std::getline(lines, line);) printed.push_back(line);
+    ASSERT_EQ(printed.size(), fields.size());
     EXPECT_EQ(
-        output_,
-        R"({"field":"frmPreferencesSampleOption.chkChar","kind":"tick box","visible":true,"enabled":true,"seen":false,"text":"Characteristics","value":0})"
-        "\n");
+        printed.front(),
+        R"({"field":"frmStart.mnuFiles","kind":"menu entry","visible":true,"enabled":false,"seen":true,"text":"Files"})");
+    EXPECT_EQ(
+        printed.back(),
+        R"({"field":"frmStart.lblTripIsNumber","kind":"label","visible":false,"enabled":true,"seen":false,"text":""})");
 }
 
 TEST_F(Playing, TheProgramsOwnStepsCanBeDoneFromOutside) {

@@ -1,0 +1,40 @@
+#include "configuration/reset_screens.h"
+
+#include <initializer_list>
+
+namespace brooklander {
+namespace {
+
+void empty(std::initializer_list<Label*> value_labels) {
+    for (Label* label : value_labels) label->clear_text();
+}
+
+void untick(std::initializer_list<TickBox*> boxes) {
+    for (TickBox* box : boxes) box->set_ticked(false);
+}
+
+}  // namespace
+
+void reset(FrmPreferencesSettings& settings) {
+    empty({&settings.lblFileName, &settings.lblSelectedOrganization, &settings.lblOrganizationName,
+           &settings.lblTrip, &settings.lblTripName, &settings.lblTripNumber,
+           &settings.lblTimeZone});
+    untick({&settings.chkSample, &settings.chkField, &settings.chkRoutine, &settings.chkHabitat,
+            &settings.chkWater, &settings.chkAir, &settings.chkSediment, &settings.chkSoil,
+            &settings.chkBiological});
+}
+
+void reset(FrmPreferencesSamples& samples) {
+    empty({&samples.lblFileName, &samples.lblSampleCollectionProcedureID, &samples.lblFieldGearID,
+           &samples.lblFieldGearIDSelected, &samples.lblGearConfiguration});
+}
+
+void reset(FrmPreferencesSampleOption& options) {
+    empty({&options.lblFileName, &options.lblDepthUnits, &options.lblSelectedProject,
+           &options.lblProjectName, &options.lblSelectedProjectTwo, &options.lblProjectNameTwo,
+           &options.lblLastName, &options.lblFirstName, &options.lblSelectedName,
+           &options.lblSampleTransportID, &options.lblSampleTransportName});
+    untick({&options.chkFeet, &options.chkMeters, &options.chkChar});
+}
+
+}  // namespace brooklander

@@ -1,0 +1,74 @@
+#include "logon/menus.h"
+
+#include "configuration/reset_screens.h"
+
+namespace brooklander {
+namespace {
+
+void reset_configuration_screens(Screens& screens) {
+    FrmCharacteristicDetails& details = screens.frmCharacteristicDetails;
+    details.frameProc.hide();
+    details.frameProcedure.hide();
+    details.frameUOM.hide();
+    reset(screens.frmPreferencesSettings);
+    reset(screens.frmPreferencesSamples);
+    reset(screens.frmPreferencesSampleOption);
+}
+
+// The manager as it first comes up: the options, none of them chosen, and nothing of a file. The
+// description is shown in a panel that is hidden here, ready for the step that shows the panel.
+void return_to_options(FrmPreferences& preferences) {
+    preferences.optBrookLanderEdit.set_on(false);
+    preferences.optBrooklanderNew.set_on(false);
+    preferences.optUseConfig.set_on(false);
+    preferences.optVox.set_on(false);
+    preferences.frameFileConverted.hide();
+    preferences.frameDescription.hide();
+    preferences.lblDefaults.hide();
+    preferences.frameFiles.hide();
+    preferences.frameNewFile.hide();
+    preferences.frameView.hide();
+    preferences.frameUseFile.hide();
+    preferences.frameFileOptions.hide();
+    preferences.frameOptions.show();
+    preferences.lblDescription.show();
+    preferences.mnuExit.enable();
+    preferences.mnuHelp.enable();
+    preferences.lblSelectedFile.clear_text();
+    preferences.set_text(FrmPreferences::title_from_the_menu);
+}
+
+}  // namespace
+
+void mnuPreferences_Click(Screens& screens) {
+    FrmStart& start = screens.frmStart;
+    FrmPreferences& preferences = screens.frmPreferences;
+    start.frameFiles.hide();
+    reset_configuration_screens(screens);
+    return_to_options(preferences);
+
+    start.chkPreferences.set_ticked(true);
+    preferences.optBrookLanderEdit.enable();
+    preferences.optBrooklanderNew.enable();
+    preferences.optVox.disable();
+    preferences.optUseConfig.disable();
+
+    start.hide();
+    preferences.show();
+    preferences.set_pointer(Pointer::normal);
+}
+
+void mnuLogger_Click(Screens& screens, Database& database) {
+    FrmStart& start = screens.frmStart;
+    FrmDataLogger& logger = screens.frmDataLogger;
+    start.hide();
+    logger.show();
+    // The logger set-up gives its data sources the bare name, where other screens say `DSN=keldar`.
+    logger.AdodcOrganization.connect("keldar", start.txtOracleID.text(),
+                                     start.txtOraclePassWord.text());
+    logger.AdodcOrganization.set_record_source(
+        "Select org_id, name From tsmorgan Where org_id <> 'ZZZZZZZZ'");
+    logger.AdodcOrganization.refresh(database);
+}
+
+}  // namespace brooklander
