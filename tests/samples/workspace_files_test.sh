@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# The files that an installation lays down in the workspace: the four reference lists and the help.
+#   workspace_files_test.sh SAMPLES_FOLDER
+set -uo pipefail
+export LC_ALL=C
+database=$(realpath "$1")/keldar.sql
+cd "$1/workspace" || exit
+passed=0
+failed=0
+
+# holds NAME WRONG: WRONG, what speaks against NAME, must be empty.
+holds() {
+  if [[ -z $2 ]]; then
+    passed=$((passed + 1))
+  else
+    failed=$((failed + 1))
+    printf '%s: found\n%s\n' "$1" "$2"
+  fi
+}
+
+# The entries of a list, as the program's lists show them.
+entries() {  # FILE
+  tr -d '\r' <"$1" | sed 's/^"\([^"]*\)".*/\1/'
+}
+
+# list FILE MOST: MOST is what the narrowest reader of its column in a characteristics file keeps.
+list() {
+  holds "every line of $1 ends in CR LF" "$(grep -nv $'[^\r]\r$' "$1")"
+  holds "the last line of $1 is ended" "$([[ $(tail -c 1 "$1" | wc -l) -eq 1 ]] || tail -n 1 "$1")"
+  holds "no entry of $1 is cut in its column" "$(entries "$1" | awk -v most="$2" 'length > most')"
+  holds "no entry of $1 has blanks around it" "$(entries "$1" | grep -E '^ | $|^$')"
+  holds "no entry of $1 comes twice" "$(entries "$1" | sort | uniq -d)"
+}
+
+list samplefraction.txt 9
+list statistictype.txt 17
+list duration.txt 9
+list temperature.txt 17
+holds "a fraction with a comma is quoted" "$(grep ',' samplefraction.txt | grep -v '^".*"')"
+holds "the database's fractions are in the list" "$(comm -13 <(entries samplefraction.txt | sort) <(
+  { cat "$database" && echo 'SELECT DISTINCT smpl_frac_type_nm FROM tsrchdef
+                             WHERE smpl_frac_type_nm IS NOT NULL;'; } | sqlite3 -batch | sort))"
+
+help=BROOKLANDER.HLP
+holds "the help is UTF-8" "$(iconv -f UTF-8 -t UTF-8 $help 2>&1 >/dev/null)"
+holds "the help needs nothing but text" "$(grep -inE '<(img|script|link|style)|https?://' $help)"
+holds "each link of the help leads to a section" "$(comm -3 \
+  <(grep -o 'href="#[^"]*' $help | cut -d '#' -f 2 | sort) \
+  <(grep -o 'a name="[^"]*' $help | cut -d '"' -f 2 | sort))"
+holds "each element of the help is closed" "$(comm -3 \
+  <(grep -oE '<(h[1-3]|p|ul|ol|li|table|tr|td|th|a|b|i|tt)[ >]' $help | tr -d '<> ' | sort) \
+  <(grep -oE '</(h[1-3]|p|ul|ol|li|table|tr|td|th|a|b|i|tt)>' $help | tr -d '</>' | sort))"
+
+echo "$passed passed, $failed failed"
+[[ $failed -eq 0 ]]
