@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "scenario/player.h"
 #include <sstream>
+#include "scenario/player.h"
 
 #include "platform/files/host_files.h"
 #include "scenario/scenario_error.h"
