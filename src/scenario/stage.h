@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/database/open_database.h"
+#include "platform/database/odbc_database.h"
 #include "platform/files/host_files.h"
 #include "program.h"
 #include "scenario/field_names.h"
@@ -28,7 +28,7 @@ struct RunningProgram {
     explicit RunningProgram(const std::filesystem::path& home) : files(home) {}
 
     HostFiles files;
-    OpenDatabase database;
+    OdbcDatabase database;
     NoHelp help;
     Program program{{files, database, help}};
     FieldNames names{program.screens()};
