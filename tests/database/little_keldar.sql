@@ -1,4 +1,4 @@
--- A little of an invented KELDAR, in words that SQLite and PostgreSQL both take.
+-- A little of an invented KELDAR for tests, in words that SQLite and PostgreSQL both take.
 
 CREATE TABLE tsmorgan (org_id CHAR(8) COLLATE RTRIM, name VARCHAR(60));
 INSERT INTO tsmorgan VALUES
