@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t longest_name = 256;
 constexpr std::size_t longest_description = 4096;
+constexpr std::size_t longest_message = 4096;
 
 template <std::size_t size>
 struct Buffer {
@@ -57,12 +58,11 @@ std::string OdbcHandle::complaint() const {
     std::string all;
     for (SQLSMALLINT record = 1;; ++record) {
         Buffer<SQL_SQLSTATE_SIZE + 1> state;
-        Buffer<SQL_MAX_MESSAGE_LENGTH * 8> message;
+        Buffer<longest_message> message;
         SQLINTEGER native = 0;
         SQLSMALLINT length = 0;
         if (!SQL_SUCCEEDED(SQLGetDiagRec(kind_, handle_, record, state.data(), &native,
-                                         message.data(),
-                                         Buffer<SQL_MAX_MESSAGE_LENGTH * 8>::length(), &length))) {
+                                         message.data(), message.length(), &length))) {
             break;
         }
         if (!all.empty()) all += "; ";
