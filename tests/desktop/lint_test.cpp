@@ -261,8 +261,8 @@ TEST_P(Windows, HaveATabOrderThatFollowsTheReading) {
     }
 }
 
-TEST_P(Windows, ClipNoText) {
-    for (const QWidget* const widget : seen_in(window())) {
+void expect_no_clipped_text(const QWidget& window) {
+    for (const QWidget* const widget : seen_in(window)) {
         if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
             EXPECT_GE(widget->width(), widget->sizeHint().width()) << name_of(*widget);
             EXPECT_GE(widget->height(), widget->sizeHint().height()) << name_of(*widget);
@@ -276,6 +276,8 @@ TEST_P(Windows, ClipNoText) {
         }
     }
 }
+
+TEST_P(Windows, ClipNoText) { expect_no_clipped_text(window()); }
 
 // A display of 1024 x 768 shows a window whole.
 TEST_P(Windows, FitASmallDisplay) {
@@ -310,17 +312,25 @@ TEST_P(Windows, GiveEveryButtonALetter) {
 }
 
 // Saves a picture of each state, for those who want to look at them.
-TEST_P(Windows, CanBePainted) {
-    const QPixmap picture = window().grab();
-    EXPECT_FALSE(picture.isNull());
+void save_picture(QWidget& window, const std::string& state, const Scheme& scheme,
+                  const QString& display) {
     const QString folder = qEnvironmentVariable("BROOKLANDER_PICTURES");
     if (folder.isEmpty()) return;
     QDir().mkpath(folder);
     const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1");
-    EXPECT_TRUE(
-        picture.save(QStringLiteral("%1/%2 %3 x%4.png")
-                         .arg(folder, QString::fromStdString(std::get<std::string>(GetParam())),
-                              QString::fromStdString(std::get<Scheme>(GetParam()).name), scale)));
+    const QString file = QStringLiteral("%1/%2 %3 %4 x%5.png")
+                             .arg(folder, QString::fromStdString(state), display,
+                                  QString::fromStdString(scheme.name), scale);
+    EXPECT_TRUE(window.grab().save(file)) << file.toStdString();
+}
+
+TEST_P(Windows, GrowWithTheDisplayAndClipNoTextThere) {
+    const auto& [state, scheme] = GetParam();
+    save_picture(window(), state, scheme, "small");
+    window().resize(2200, 1240);
+    DrawnProgram::rest();
+    expect_no_clipped_text(window());
+    save_picture(window(), state, scheme, "large");
 }
 
 std::vector<std::string> states() {

@@ -257,21 +257,31 @@ Card* table_card(Display& display, Draw& draw) {
     return card;
 }
 
+// A card is read across; on a wide display it does not grow with the table.
+QHBoxLayout* of_readable_width(QWidget* card) {
+    constexpr int widest_in_letters = 165;
+    card->setMaximumWidth(card->fontMetrics().averageCharWidth() * widest_in_letters);
+    auto* const line = new QHBoxLayout;
+    line->addWidget(card, 1);
+    line->addStretch();
+    return line;
+}
+
 }  // namespace
 
 void lay_out_import(FrmImportFileDisplay& display, Draw& draw) {
     QVBoxLayout* const page = draw.window().page();
     page->addLayout(files_line(display, draw));
-    page->addWidget(question(display.frameImportConfirm, display.cmdYes, display.cmdNo, draw));
-    page->addWidget(question(display.frameChar, display.cmdCharYes, display.cmdCharNo, draw));
-    page->addWidget(characteristics_card(display, draw));
-    page->addWidget(filler_card(display, draw));
-    page->addWidget(question(display.frameSameSelections, display.cmdColumnYes, display.cmdColumnNo,
-                             draw, QStringLiteral("Use Existing Column Selections ?")));
-    page->addWidget(columns_card(display, draw));
-    page->addWidget(row_card(display, draw));
-    page->addWidget(output_card(display, draw));
-    page->addWidget(converted_card(display, draw));
+    for (Card* const card :
+         {question(display.frameImportConfirm, display.cmdYes, display.cmdNo, draw),
+          question(display.frameChar, display.cmdCharYes, display.cmdCharNo, draw),
+          characteristics_card(display, draw), filler_card(display, draw),
+          question(display.frameSameSelections, display.cmdColumnYes, display.cmdColumnNo, draw,
+                   QStringLiteral("Use Existing Column Selections ?")),
+          columns_card(display, draw), row_card(display, draw), output_card(display, draw),
+          converted_card(display, draw)}) {
+        page->addLayout(of_readable_width(card));
+    }
     page->addWidget(table_card(display, draw), 1);
     page->addStretch(0);
 }

@@ -13,7 +13,10 @@ int letters(int count, const QWidget& widget) {
     return widget.fontMetrics().averageCharWidth() * count;
 }
 
-void keep_width(QWidget* widget, int count) { widget->setFixedWidth(letters(count, *widget)); }
+void keep_width(QWidget* widget, int count) {
+    widget->setFixedWidth(letters(count, *widget));
+    widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
+}
 
 // A card in the middle of the page's width, as high as its texts need it.
 QHBoxLayout* in_the_middle(QWidget* card) {
@@ -77,7 +80,6 @@ Card* about_card(FrmStart& start, Draw& draw) {
 Card* files_card(FrmStart& start, Draw& draw) {
     Card* const card = draw.card(start.frameFiles);
     keep_width(card, 100);
-    card->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     QLabel* const drive = draw.caption(start.lblDrive, 'D');
     QLabel* const folder = draw.caption(start.lblDirectory, 'i');
     QLabel* const files = draw.caption(start.lblAvailableFiles, 'l');
@@ -86,6 +88,7 @@ Card* files_card(FrmStart& start, Draw& draw) {
     ListWidget* const names =
         draw.list(start.lstImportFileBox, shown(start.lblAvailableFiles.text()));
     names->set_empty_text(QStringLiteral("No text files here. Open another directory."));
+    folders->setMinimumHeight(folders->fontMetrics().height() * 18);
     drive->setBuddy(drives);
     folder->setBuddy(folders);
     files->setBuddy(names);
