@@ -34,7 +34,6 @@ source_to() {  # DATABASE_FILE
 }
 
 holds() {  # NAME PRINTF-FORMAT: what the user's file must hold, byte for byte
-  # shellcheck disable=SC2059
   is "$1" "" "$(printf "$2" | cmp - odbc.ini 2>&1)"
 }
 
