@@ -38,19 +38,22 @@ struct Decoded {
     std::size_t length;
 };
 
-// One character from the front of a text that is not empty; nothing when it is not well-formed.
-// Characters above FFFF are cut short here, since the code page has none of them.
+// One character from the front of a text that is not empty; nothing when it is not well-formed:
+// longer than it has to be, half of a surrogate pair, or beyond the last character.
 std::optional<Decoded> decode(std::string_view utf8) {
     const auto byte = [utf8](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
     if (byte(0) < 0x80) return Decoded{byte(0), 1};
-    const std::size_t length = byte(0) >= 0xE0 ? 3 : 2;
-    if (byte(0) < 0xC2 || byte(0) >= 0xF0 || utf8.size() < length) return std::nullopt;
-    char32_t character = length == 2 ? byte(0) & 0x1FU : byte(0) & 0x0FU;
+    if (byte(0) < 0xC2 || byte(0) > 0xF4) return std::nullopt;
+    const std::size_t length = byte(0) < 0xE0 ? 2 : byte(0) < 0xF0 ? 3 : 4;
+    if (utf8.size() < length) return std::nullopt;
+    char32_t character = byte(0) & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
         if ((byte(i) & 0xC0U) != 0x80U) return std::nullopt;
         character = (character << 6U) | (byte(i) & 0x3FU);
     }
-    if (length == 3 && character < 0x800) return std::nullopt;
+    constexpr std::array<char32_t, 5> least{0, 0, 0x80, 0x800, 0x10000};
+    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+    if (character < least[length] || surrogate || character > 0x10FFFF) return std::nullopt;
     return Decoded{character, length};
 }
 
@@ -106,6 +109,27 @@ std::optional<std::string> from_utf8(std::string_view utf8) {
         utf8.remove_prefix(decoded->length);
     }
     return text;
+}
+
+bool is_utf8(std::string_view text) {
+    while (!text.empty()) {
+        const auto decoded = decode(text);
+        if (!decoded) return false;
+        text.remove_prefix(decoded->length);
+    }
+    return true;
+}
+
+std::string from_utf8_or_bytes(std::string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::string_view rest = text; !rest.empty();) {
+        const auto decoded = decode(rest);
+        if (!decoded) return std::string(text);
+        bytes += byte_of(decoded->character).value_or('?');
+        rest.remove_prefix(decoded->length);
+    }
+    return bytes;
 }
 
 std::string upper(std::string_view text) {

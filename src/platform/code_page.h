@@ -18,6 +18,13 @@ std::string to_utf8(std::string_view text);
 // page lacks.
 std::optional<std::string> from_utf8(std::string_view utf8);
 
+// Whether a text is UTF-8. A text of ASCII alone is.
+bool is_utf8(std::string_view text);
+
+// The code page form of a text of unknown make: UTF-8 is converted, with `?` for each character
+// that the code page lacks; anything else is bytes of the code page already.
+std::string from_utf8_or_bytes(std::string_view text);
+
 // The text with every letter that has a capital in the code page made one. Letters without one
 // there (the sharp s, the micro sign) stay.
 std::string upper(std::string_view text);

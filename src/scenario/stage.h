@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/database/open_database.h"
+#include "platform/database/odbc_database.h"
 #include "platform/files/host_files.h"
 #include "program.h"
 #include "scenario/field_names.h"
@@ -27,7 +27,7 @@ struct RunningProgram {
     ~RunningProgram() { front->end(); }
 
     HostFiles files;
-    OpenDatabase database;
+    OdbcDatabase database;
     std::unique_ptr<Front> front;
     Program program{{files, database, front->help()}};
     FieldNames names{program.screens()};

@@ -38,5 +38,26 @@ TEST(CodePage, CapitalsCoverTheCodePagesLetters) {
     EXPECT_FALSE(same_but_for_case("a", "ab"));
 }
 
+TEST(CodePage, TextsOfUnknownMakeAreTakenForUtf8WhereTheyAreThat) {
+    EXPECT_EQ(from_utf8_or_bytes("Gr\xC3\xBCn \xE2\x82\xAC"), "Gr\xFCn \x80");
+    EXPECT_EQ(from_utf8_or_bytes("Gr\xFCn"), "Gr\xFCn");
+    EXPECT_EQ(from_utf8_or_bytes(""), "");
+}
+
+TEST(CodePage, CharactersThatItLacksBecomeQuestionMarks) {
+    EXPECT_EQ(from_utf8_or_bytes("\xC5\x82\xC3\xA9\xF0\x9F\x90\x9F!"), "?\xE9?!");
+}
+
+TEST(CodePage, Utf8IsWellFormedOrNoUtf8) {
+    EXPECT_TRUE(is_utf8("plain"));
+    EXPECT_TRUE(is_utf8("\xC2\x80\xE0\xA0\x80\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"));
+    for (const char* text :
+         {"\x80", "\xC3", "\xC1\x81", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x9F\x90",
+          "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xC3\x41"}) {
+        EXPECT_FALSE(is_utf8(text)) << text;
+        EXPECT_EQ(from_utf8_or_bytes(text), text);
+    }
+}
+
 }  // namespace
 }  // namespace brooklander

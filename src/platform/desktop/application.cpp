@@ -2,6 +2,7 @@
 
 #include <QFont>
 
+#include "platform/desktop/grid_accessible.h"
 #include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
@@ -15,6 +16,7 @@ std::unique_ptr<QApplication> make_application(int& argc, char** argv) {
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
     }
     dress(*application);
+    make_grids_accessible();
     return application;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/desktop/grid_widget.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -29,6 +30,7 @@ void GridWidget::set_column_marks(std::function<ColumnMark(int column)> marks) {
 }
 
 void GridWidget::follow() {
+    const GridCell before = current_;
     rows_ = grid_.rows();
     columns_ = grid_.columns();
     fixed_rows_ = std::min(grid_.fixed_rows(), rows_);
@@ -46,6 +48,13 @@ void GridWidget::follow() {
     }
     read_page();
     viewport()->update();
+    if (!(current_ == before) && hasFocus() && QAccessible::isActive()) tell_current_cell();
+}
+
+void GridWidget::tell_current_cell() {
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild((current_.row - fixed_rows_) * columns_ + current_.column);
+    QAccessible::updateAccessibility(&event);
 }
 
 void GridWidget::measure() {

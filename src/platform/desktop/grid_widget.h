@@ -4,6 +4,7 @@
 
 #include <QAbstractScrollArea>
 #include <QColor>
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -60,6 +61,9 @@ class GridWidget : public QAbstractScrollArea {
     QString difference() const;
 
     const Grid& grid() const { return grid_; }
+    int headings() const { return fixed_rows_; }  // rows that stand in the headings
+    int shown_rows() const { return std::max(0, data_rows()); }
+    QString heading_text(int column) const { return heading_of(column); }
     int columns_shown_to() const;  // behind the last column that is in the viewport
     int rows_in_view() const;      // the whole rows that fit
 
@@ -98,6 +102,7 @@ class GridWidget : public QAbstractScrollArea {
     std::optional<int> border_at(QPoint point) const;
     bool is_marked(GridCell cell) const;
 
+    void tell_current_cell();
     void measure();
     void measure_columns();
     void fit_scroll_bars();

@@ -22,13 +22,9 @@ Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, const QString&
     Card* const card = draw.card(panel);
     QPushButton* const yes_button = draw.filled(yes, 'Y');
     QPushButton* const no_button = draw.button(no, 'N');
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(between_controls);
-    if (!text.isEmpty()) line->addWidget(draw.text(text, card));
-    line->addStretch(1);
-    line->addWidget(yes_button);
-    line->addWidget(no_button);
-    card->content()->addLayout(line);
+    if (!text.isEmpty()) card->head()->addWidget(draw.text(text, card), 2);
+    card->head()->addWidget(yes_button);
+    card->head()->addWidget(no_button);
     draw.window().asks(card, yes_button, no_button);
     return card;
 }

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "platform/database/open_database.h"
+#include "platform/database/odbc_database.h"
 #include "platform/desktop/application.h"
 #include "platform/desktop/failure_box.h"
 #include "platform/desktop/help_window.h"
@@ -20,7 +20,7 @@ constexpr int ended_by_failure = 1;
 int run(int argc, char** argv) {
     const auto application = make_application(argc, argv);
     HostFiles files(home_folder());
-    OpenDatabase database;
+    OdbcDatabase database;
     HelpWindow help(files);
     Program program({files, database, help});
     Windows windows(program.screens());

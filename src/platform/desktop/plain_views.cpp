@@ -14,18 +14,21 @@
 
 namespace brooklander::desktop {
 
-Card::Card(QWidget* parent) : QFrame(parent), content_(new QVBoxLayout), title_(new QLabel(this)) {
+Card::Card(QWidget* parent)
+    : QFrame(parent), head_(new QHBoxLayout), content_(new QVBoxLayout), title_(new QLabel(this)) {
     mark(*this, "card");
     auto* const whole = new QVBoxLayout(this);
-    whole->setContentsMargins(inside_card, 12, inside_card, inside_card);
+    whole->setContentsMargins(inside_card, 12, inside_card, 12);
     whole->setSpacing(between_controls);
     title_->setTextFormat(Qt::PlainText);
     title_->setWordWrap(true);
     title_->setFont(font_larger_by(1, QFont::DemiBold));
     mark(*title_, "title");
+    head_->setSpacing(between_controls);
+    head_->addWidget(title_, 1);
     content_->setSpacing(between_controls);
-    whole->addWidget(title_);
-    whole->addLayout(content_);
+    whole->addLayout(head_);
+    whole->addLayout(content_, 1);
 }
 
 ValueLabel::ValueLabel(QWidget* parent) : QWidget(parent) {

@@ -24,10 +24,14 @@ class Card : public QFrame {
     // What lies on the card goes in here, one below the other.
     QVBoxLayout* content() { return content_; }
 
+    // What lies beside the title, from left to right.
+    QHBoxLayout* head() { return head_; }
+
     QLabel* title() { return title_; }
     const QLabel* title() const { return title_; }
 
   private:
+    QHBoxLayout* head_;
     QVBoxLayout* content_;
     QLabel* title_;
 };

@@ -57,8 +57,9 @@ Card* refusal_card(FrmStart& start, Draw& draw) {
 Card* exit_card(FrmStart& start, Draw& draw) {
     Card* const card = draw.card(start.frameExit);
     keep_width(card, 56);
+    QPushButton* const yes = draw.filled(start.cmdYes, 'Y');
     QPushButton* const no = draw.button(start.cmdNo, 'N');
-    card->content()->addLayout(row({draw.filled(start.cmdYes, 'Y'), no}, Side::right));
+    card->content()->addLayout(row({yes, no}, Side::right));
     draw.window().asks(card, no, no);
     return card;
 }

@@ -123,7 +123,7 @@ Colours colours_of(const QPalette& palette) {
     colours.wave = mixed(colours.card, teal, colours.dark ? 0.13 : 0.15);
     colours.line = mixed(colours.card, mixed(colours.text, teal, 0.4), 0.18);
     colours.edge = mixed(colours.card, mixed(colours.text, teal, 0.3), 0.45);
-    colours.quiet = mixed(colours.card, colours.text, 0.68);
+    colours.quiet = mixed(colours.card, colours.text, 0.72);
     colours.title = colours.dark ? QColor(0x7a, 0xd3, 0xe8) : QColor(0x0b, 0x4f, 0x66);
     colours.accent = colours.dark ? QColor(0x0f, 0x77, 0x92) : QColor(0x0a, 0x6e, 0x8c);
     colours.accent_text = Qt::white;
@@ -139,7 +139,7 @@ QColor tint(const Colours& colours, int number) {
                                             QColor(0x1f, 0xa8, 0x8c), QColor(0xb0, 0x7a, 0x4a),
                                             QColor(0x7f, 0x8c, 0x2f), QColor(0x8a, 0x5f, 0xc8)};
     const auto at = static_cast<std::size_t>(number) % hues.size();
-    return mixed(colours.card, hues[at], colours.dark ? 0.26 : 0.16);
+    return mixed(colours.card, hues[at], colours.dark ? 0.2 : 0.16);
 }
 
 QFont font_larger_by(qreal points, QFont::Weight weight) {

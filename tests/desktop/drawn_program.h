@@ -1,0 +1,42 @@
+// A program on a folder of its own, with its windows.
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+
+#include "platform/desktop/warnings.h"
+#include "platform/desktop/windows.h"
+#include "support/test_program.h"
+
+namespace brooklander::test {
+
+struct DrawnProgram : TestProgram {
+    DrawnProgram() {
+        windows.on_failure = [this](const QString& sentence) { failure = sentence.toStdString(); };
+        windows.on_end = [this] { has_ended = true; };
+    }
+
+    // Does it as a step of the program, and lets the windows come to rest.
+    void act(const std::function<void()>& step) {
+        windows.act(step);
+        rest();
+    }
+
+    static void rest() {
+        QApplication::processEvents();
+        QApplication::processEvents();
+    }
+
+    template <typename Widget = QWidget>
+    Widget* widget(const Field& field) {
+        return dynamic_cast<Widget*>(windows.view_of(field)->widget());
+    }
+
+    desktop::ScreenWindow& start_window() { return *windows.window_of(start_screen()); }
+
+    desktop::Windows windows{program.screens()};
+    std::string failure;
+    bool has_ended = false;
+};
+
+}  // namespace brooklander::test

@@ -1,0 +1,232 @@
+#include "platform/desktop/grid_widget.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QScrollBar>
+#include <QTest>
+
+#include "support/test_screen.h"
+
+namespace brooklander::desktop {
+namespace {
+
+class StepsAsTheyCome : public Acts {
+  public:
+    void act(FieldView& origin, const std::function<void()>& step) override {
+        step();
+        origin.follow();
+    }
+};
+
+class DrawnGrid : public testing::Test {
+  protected:
+    DrawnGrid() : widget_(new GridWidget(grid(), &window_)) {
+        window_.resize(640, 480);
+        widget_->setGeometry(0, 0, 640, 480);
+        view_ = grid_view(grid(), widget_, acts_);
+        window_.show();
+        grid().on_click = [this] { clicks_.push_back(grid().current()); };
+    }
+
+    Grid& grid() { return test_.screen.MSFlexTest; }
+
+    void fill(int rows) {
+        for (int row = 0; row < rows; ++row) {
+            const std::string number = std::to_string(row);
+            grid().add_row("a" + number + "\tb" + number + "\tc" + number);
+        }
+        view_->follow();
+    }
+
+    void click(GridCell cell) {
+        widget_->bring_into_view(cell);
+        QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {},
+                          widget_->cell_place(cell).center());
+    }
+
+    // A click on the heading of a column, or on the number of a row.
+    void click_heading(int column) {
+        const QRect below = widget_->cell_place({grid().fixed_rows(), column});
+        QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {},
+                          QPoint(below.center().x(), below.top() - 8));
+    }
+    void click_number(int row) {
+        QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {},
+                          QPoint(4, widget_->cell_place({row, 0}).center().y()));
+    }
+
+    test::TestScreen test_;
+    QWidget window_;
+    StepsAsTheyCome acts_;
+    GridWidget* widget_;
+    std::unique_ptr<FieldView> view_;
+    std::vector<GridCell> clicks_;
+};
+
+TEST_F(DrawnGrid, AClickMakesTheCellCurrentAndTellsIt) {
+    fill(500);
+    click({3, 1});
+    click({432, 2});
+    click({432, 2});
+    EXPECT_EQ(clicks_, (std::vector<GridCell>{{3, 1}, {432, 2}, {432, 2}}));
+    EXPECT_EQ(widget_->text_on_screen({432, 2}), QStringLiteral("c432"));
+    EXPECT_EQ(view_->difference(), "");
+}
+
+TEST_F(DrawnGrid, WhatIsBesideTheTableIsNoCell) {
+    fill(2);
+    QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {}, QPoint(630, 60));
+    QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {}, QPoint(60, 470));
+    EXPECT_TRUE(clicks_.empty());
+}
+
+TEST_F(DrawnGrid, HeadingsStandForTheirColumnWhereColumnsAreChosenAndNumbersForTheirRow) {
+    fill(9);
+    click_heading(1);
+    click_number(4);
+    EXPECT_TRUE(clicks_.empty());
+    grid().set_selection(Selection::by_column);
+    click_heading(1);
+    click_number(4);
+    EXPECT_EQ(clicks_, (std::vector<GridCell>{{0, 1}}));
+    grid().set_selection(Selection::by_row);
+    click_heading(2);
+    click_number(4);
+    EXPECT_EQ(clicks_, (std::vector<GridCell>{{0, 1}, {4, 0}}));
+}
+
+TEST_F(DrawnGrid, AFixedRowNamesTheColumnsAndIsNotClicked) {
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    fill(3);
+    EXPECT_EQ(widget_->heading_text(1), "name");
+    EXPECT_EQ(widget_->shown_rows(), 3);
+    QTest::mouseClick(widget_->viewport(), Qt::LeftButton, {},
+                      widget_->cell_place({0, 1}).center());
+    EXPECT_TRUE(clicks_.empty());
+    EXPECT_TRUE(grid().focused());
+    click({1, 1});
+    EXPECT_EQ(clicks_, (std::vector<GridCell>{{1, 1}}));
+}
+
+TEST_F(DrawnGrid, ArrowsMoveAndEnterAndSpaceClick) {
+    fill(500);
+    widget_->setFocus();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Up}) {
+        QTest::keyClick(widget_, key);
+    }
+    EXPECT_EQ(grid().current(), (GridCell{1, 1}));
+    EXPECT_TRUE(clicks_.empty());
+    QTest::keyClick(widget_, Qt::Key_Return);
+    QTest::keyClick(widget_, Qt::Key_Space);
+    EXPECT_EQ(clicks_, (std::vector<GridCell>{{1, 1}, {1, 1}}));
+}
+
+TEST_F(DrawnGrid, PageAndEndKeysMoveFarAndTheCurrentCellStaysInSight) {
+    fill(500);
+    widget_->setFocus();
+    QTest::keyClick(widget_, Qt::Key_PageDown);
+    EXPECT_EQ(grid().current().row, widget_->rows_in_view());
+    QTest::keyClick(widget_, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(grid().current(), (GridCell{499, 2}));
+    EXPECT_TRUE(widget_->text_on_screen({499, 2}).has_value());
+    QTest::keyClick(widget_, Qt::Key_PageDown);
+    EXPECT_EQ(grid().current().row, 499);
+    QTest::keyClick(widget_, Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(grid().current(), (GridCell{0, 0}));
+    EXPECT_TRUE(clicks_.empty());
+}
+
+TEST_F(DrawnGrid, AGridThatIsTypedIntoGetsEveryKey) {
+    fill(3);
+    std::string typed_keys;
+    grid().on_key = [&](Key key) {
+        typed_keys += key.name == Key::Name::character ? std::string(1, key.character) : "<>";
+    };
+    widget_->setFocus();
+    QTest::keyClicks(widget_, "x ");
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Delete, Qt::Key_Return, Qt::Key_Escape}) {
+        QTest::keyClick(widget_, key);
+    }
+    EXPECT_EQ(typed_keys, "x <><><><>");
+}
+
+TEST_F(DrawnGrid, TabLeavesTheGrid) {
+    fill(3);
+    auto* const next = new QWidget(&window_);
+    next->setFocusPolicy(Qt::StrongFocus);
+    next->show();
+    widget_->setFocus();
+    QTest::keyClick(widget_, Qt::Key_Tab);
+    EXPECT_EQ(window_.focusWidget(), next);
+}
+
+TEST_F(DrawnGrid, ARowOfNoHeightAndAColumnOfNoWidthAreNotShown) {
+    fill(3);
+    grid().set_row_height(1, 1);
+    grid().set_column_width(1, 0);
+    view_->follow();
+    EXPECT_TRUE(widget_->cell_place({1, 0}).isEmpty());
+    EXPECT_TRUE(widget_->cell_place({0, 1}).isEmpty());
+    EXPECT_EQ(widget_->cell_place({2, 0}).top(), widget_->cell_place({0, 0}).bottom() + 1);
+}
+
+TEST_F(DrawnGrid, AStepThatScrollsIsFollowed) {
+    fill(500);
+    grid().set_top_row(100);
+    view_->follow();
+    EXPECT_EQ(widget_->text_on_screen({100, 0}), QStringLiteral("a100"));
+    EXPECT_FALSE(widget_->text_on_screen({99, 0}).has_value());
+}
+
+TEST_F(DrawnGrid, FewerRowsThanBeforeAreShownAsFew) {
+    fill(500);
+    widget_->verticalScrollBar()->setValue(400);
+    grid().set_rows(0);
+    widget_->resize(600, 400);  // before the widget follows
+    view_->follow();
+    EXPECT_EQ(widget_->shown_rows(), 0);
+    EXPECT_EQ(view_->difference(), "");
+}
+
+TEST_F(DrawnGrid, AColumnFitsItsHeadingAndTheFirstRows) {
+    grid().add_row("a rather long name of a station\tb");
+    view_->follow();
+    const int need = widget_->fontMetrics().horizontalAdvance("a rather long name of a station");
+    EXPECT_GE(widget_->cell_place({0, 0}).width(), need);
+}
+
+TEST_F(DrawnGrid, TheBorderOfAColumnCanBeDragged) {
+    fill(3);
+    const int before = widget_->cell_place({0, 0}).width();
+    const QPoint border(widget_->cell_place({0, 0}).right() + 1, 10);
+    QTest::mousePress(widget_->viewport(), Qt::LeftButton, {}, border);
+    QMouseEvent move(QEvent::MouseMove, border + QPoint(40, 0), widget_->mapToGlobal(border),
+                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget_->viewport(), &move);
+    QTest::mouseRelease(widget_->viewport(), Qt::LeftButton, {}, border + QPoint(40, 0));
+    EXPECT_EQ(widget_->cell_place({0, 0}).width(), before + 40);
+    EXPECT_TRUE(clicks_.empty());
+}
+
+TEST_F(DrawnGrid, AScreenReaderFindsEveryCell) {
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    fill(3);
+    QAccessibleInterface* const whole = QAccessible::queryAccessibleInterface(widget_);
+    ASSERT_NE(whole->tableInterface(), nullptr);
+    QAccessibleTableInterface& table = *whole->tableInterface();
+    EXPECT_EQ(table.rowCount(), 3);
+    EXPECT_EQ(table.columnCount(), 3);
+    EXPECT_EQ(table.cellAt(2, 1)->text(QAccessible::Name), "b2");
+    EXPECT_EQ(table.columnDescription(1), "name");
+    EXPECT_EQ(table.cellAt(3, 0), nullptr);
+    click({2, 1});
+    EXPECT_EQ(table.selectedCells().front()->text(QAccessible::Name), "b1");
+    EXPECT_EQ(whole->indexOfChild(table.cellAt(2, 1)), 7);
+    EXPECT_EQ(whole->child(7), table.cellAt(2, 1));
+}
+
+}  // namespace
+}  // namespace brooklander::desktop

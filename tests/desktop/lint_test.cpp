@@ -1,0 +1,379 @@
+// Walks the windows as a user meets them, in light and dark, and looks at every control.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QDir>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <cmath>
+#include <map>
+
+#include "desktop/drawn_program.h"
+#include "platform/desktop/grid_widget.h"
+#include "platform/desktop/plain_views.h"
+#include "platform/desktop/texts.h"
+#include "platform/desktop/theme.h"
+
+namespace brooklander::desktop {
+namespace {
+
+using test::DrawnProgram;
+
+constexpr const char* sample_table =
+    "Station\tDate\tTime\tSample\tDepth\tCrew\tRemarks\tTemperature\tpH\tOxygen\n"
+    "LL-01\t05/04/2021\t915\tLL21-001\t0.5\tRoe Richard\t\t11.0\t7.2\t9.8\r\n"
+    "LL-02\t05/04/2021\t0945\t\t2.5\tDoe Jane\twind from the west, waves\t10.2\t<7.3\t\r\n";
+
+// How a user comes to a state of the windows.
+using Road = std::function<void(DrawnProgram&)>;
+
+void log_on(DrawnProgram& drawn) {
+    drawn.act([&] {
+        drawn.start_screen().txtOracleID.type("jdoe");
+        drawn.start_screen().txtOraclePassWord.type("secret");
+        drawn.start_screen().cmdUIDok.press();
+    });
+}
+
+void choose_file(DrawnProgram& drawn) {
+    log_on(drawn);
+    drawn.folder.write("data/lake survey of a rather long name.txt", sample_table);
+    drawn.act([&] {
+        drawn.start_screen().mnuImport.choose();
+        DrawnProgram::select(drawn.start_screen().Dir1, "data");
+        drawn.start_screen().lstImportFileBox.click_entry(0);
+    });
+}
+
+void view_file(DrawnProgram& drawn) {
+    choose_file(drawn);
+    drawn.act([&] { drawn.start_screen().cmdView.press(); });
+}
+
+void name_output(DrawnProgram& drawn) {
+    view_file(drawn);
+    drawn.act([&] {
+        drawn.import_screen().cmdYes.press();
+        drawn.screens().frmPreferences.optVox.choose();
+    });
+}
+
+void choose_columns(DrawnProgram& drawn) {
+    name_output(drawn);
+    drawn.act([&] {
+        drawn.import_screen().cmdSave.press();
+        drawn.import_screen().cmdActivitySkip.press();
+        drawn.assign_station_date_and_results();
+        drawn.import_screen().cmdTime.press();
+    });
+}
+
+const std::map<std::string, Road>& roads() {
+    static const std::map<std::string, Road> all{
+        {"start 1 logon", [](DrawnProgram&) {}},
+        {"start 2 typed",
+         [](DrawnProgram& drawn) {
+             drawn.act([&] {
+                 drawn.start_screen().txtOracleID.type("jdoe");
+                 drawn.start_screen().txtOraclePassWord.type("secret");
+             });
+         }},
+        {"start 3 refused",
+         [](DrawnProgram& drawn) {
+             drawn.database.refuses = true;
+             log_on(drawn);
+         }},
+        {"start 4 logged on", log_on},
+        {"start 5 exit and about",
+         [](DrawnProgram& drawn) {
+             log_on(drawn);
+             drawn.act([&] {
+                 drawn.start_screen().mnuExit.choose();
+                 drawn.start_screen().mnuAbout.choose();
+             });
+         }},
+        {"start 6 files", choose_file},
+        {"import 1 view", view_file},
+        {"import 2 output", name_output},
+        {"import 3 filler",
+         [](DrawnProgram& drawn) {
+             name_output(drawn);
+             drawn.act([&] {
+                 drawn.import_screen().cmdSave.press();
+                 drawn.import_screen().txtActivityID.type("LAKE");
+             });
+         }},
+        {"import 4 columns", choose_columns},
+        {"import 5 kept columns",
+         [](DrawnProgram& drawn) {
+             choose_columns(drawn);
+             drawn.act([&] { drawn.import_screen().frameSameSelections.show(); });
+         }},
+        {"import 6 first row",
+         [](DrawnProgram& drawn) {
+             choose_columns(drawn);
+             drawn.act([&] {
+                 drawn.import_screen().cmdContinue.press();
+                 drawn.table().click_cell({1, 0});
+             });
+         }},
+        {"import 7 converted",
+         [](DrawnProgram& drawn) {
+             choose_columns(drawn);
+             drawn.act([&] { drawn.convert(1); });
+         }},
+        {"import 8 characteristics",
+         [](DrawnProgram& drawn) {
+             choose_file(drawn);
+             drawn.act([&] {
+                 drawn.start_screen().chkPreferences.set_ticked(true);
+                 drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
+                 drawn.start_screen().cmdView.press();
+             });
+         }},
+        {"import 9 characteristic column",
+         [](DrawnProgram& drawn) {
+             choose_file(drawn);
+             drawn.act([&] {
+                 drawn.start_screen().chkPreferences.set_ticked(true);
+                 drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
+                 drawn.start_screen().cmdView.press();
+                 drawn.import_screen().cmdCharYes.press();
+             });
+         }},
+    };
+    return all;
+}
+
+struct Scheme {
+    std::string name;
+    QColor base;
+    QColor text;
+};
+
+const std::vector<Scheme>& schemes() {
+    static const std::vector<Scheme> both{
+        {"light", Qt::white, Qt::black},
+        {"dark", QColor(0x1e, 0x1f, 0x22), QColor(0xe4, 0xe6, 0xe8)}};
+    return both;
+}
+
+void put_on(const Scheme& scheme) {
+    QPalette palette(scheme.base == Qt::white ? QColor(0xf0, 0xf0, 0xf0)
+                                              : QColor(0x2b, 0x2d, 0x30));
+    palette.setColor(QPalette::Base, scheme.base);
+    palette.setColor(QPalette::Text, scheme.text);
+    palette.setColor(QPalette::WindowText, scheme.text);
+    palette.setColor(QPalette::ButtonText, scheme.text);
+    QApplication::setPalette(palette);
+    QApplication::processEvents();
+}
+
+// All widgets of a window that a user can see.
+std::vector<QWidget*> seen_in(const QWidget& window) {
+    std::vector<QWidget*> seen;
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->window() == &window) seen.push_back(widget);
+    }
+    return seen;
+}
+
+bool is_control(const QWidget& widget) {
+    return widget.focusPolicy() != Qt::NoFocus && !widget.objectName().startsWith("qt_");
+}
+
+std::string name_of(const QWidget& widget) {
+    return widget.objectName().isEmpty() ? widget.metaObject()->className()
+                                         : widget.objectName().toStdString();
+}
+
+// The keys of a window that lead somewhere with Alt, each with what it leads to.
+std::multimap<QChar, std::string> letters_of(const QMainWindow& window) {
+    std::multimap<QChar, std::string> letters;
+    const auto add = [&letters](const QString& text, const std::string& whose) {
+        const QKeySequence sequence = QKeySequence::mnemonic(text);
+        if (!sequence.isEmpty()) letters.emplace(sequence.toString().back(), whose);
+    };
+    for (const QAction* const action : window.menuBar()->actions()) {
+        if (action->isVisible() && action->isEnabled()) {
+            add(action->text(), action->objectName().toStdString());
+        }
+    }
+    for (const QWidget* const widget : seen_in(window)) {
+        if (!widget->isEnabled()) continue;
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(widget)) {
+            add(button->text(), name_of(*widget));
+        } else if (const auto* const label = qobject_cast<const QLabel*>(widget)) {
+            if (label->buddy() != nullptr) add(label->text(), name_of(*widget));
+        }
+    }
+    return letters;
+}
+
+class Windows : public testing::TestWithParam<std::tuple<std::string, Scheme>> {
+  protected:
+    Windows() {
+        put_on(std::get<Scheme>(GetParam()));
+        drawn_.act([this] { drawn_.program.start(); });
+        roads().at(std::get<std::string>(GetParam()))(drawn_);
+        DrawnProgram::rest();
+    }
+    ~Windows() override { put_on(schemes().front()); }
+
+    ScreenWindow& window() { return *drawn_.windows.foremost(); }
+
+    DrawnProgram drawn_;
+};
+
+TEST_P(Windows, ShowWhatTheFieldsHoldWithoutAWarning) {
+    EXPECT_EQ(drawn_.failure, "");
+    EXPECT_EQ(drawn_.windows.difference(), "");
+    EXPECT_EQ(take_warning(), "");
+}
+
+TEST_P(Windows, HaveANameOnEveryControl) {
+    for (QWidget* const widget : seen_in(window())) {
+        if (!is_control(*widget)) continue;
+        const QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(read, nullptr) << name_of(*widget);
+        EXPECT_FALSE(read->text(QAccessible::Name).isEmpty()) << name_of(*widget);
+    }
+}
+
+// From one control to the next it goes down or to the right, in cards and among them.
+TEST_P(Windows, HaveATabOrderThatFollowsTheReading) {
+    std::vector<QWidget*> chain;
+    for (QWidget* at = window().nextInFocusChain(); at != &window(); at = at->nextInFocusChain()) {
+        if (at->isVisible() && at->isEnabled() && is_control(*at) &&
+            (at->focusPolicy() & Qt::TabFocus) != 0) {
+            chain.push_back(at);
+        }
+    }
+    for (std::size_t at = 1; at < chain.size(); ++at) {
+        const QPoint before = chain[at - 1]->mapTo(&window(), QPoint(0, 0));
+        const QPoint here = chain[at]->mapTo(&window(), QPoint(0, 0));
+        EXPECT_TRUE(here.x() > before.x() || here.y() > before.y())
+            << name_of(*chain[at - 1]) << " before " << name_of(*chain[at]);
+    }
+}
+
+TEST_P(Windows, ClipNoText) {
+    for (const QWidget* const widget : seen_in(window())) {
+        if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
+            EXPECT_GE(widget->width(), widget->sizeHint().width()) << name_of(*widget);
+            EXPECT_GE(widget->height(), widget->sizeHint().height()) << name_of(*widget);
+        } else if (const auto* const label = qobject_cast<const QLabel*>(widget)) {
+            const int needed = label->wordWrap() ? label->heightForWidth(label->width())
+                                                 : label->sizeHint().height();
+            EXPECT_GE(label->height(), needed) << label->text().toStdString();
+            if (!label->wordWrap()) {
+                EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+            }
+        }
+    }
+}
+
+// A display of 1024 x 768 shows a window whole.
+TEST_P(Windows, FitASmallDisplay) {
+    const auto* const area = window().findChild<QScrollArea*>();
+    EXPECT_FALSE(area->verticalScrollBar()->isVisible());
+    EXPECT_FALSE(area->horizontalScrollBar()->isVisible());
+}
+
+TEST_P(Windows, LeaveNoTwoControlsTheSameLetter) {
+    const auto letters = letters_of(window());
+    for (auto at = letters.begin(); at != letters.end(); ++at) {
+        const auto next = std::next(at);
+        if (next != letters.end()) {
+            EXPECT_NE(at->first, next->first) << at->second << " and " << next->second;
+        }
+    }
+}
+
+// But for those whose caption stands on several buttons at once: there is no letter for each.
+TEST_P(Windows, GiveEveryButtonALetter) {
+    std::map<QString, int> captions;
+    for (const QWidget* const widget : seen_in(window())) {
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(widget)) {
+            ++captions[without_mnemonic(button->text())];
+        }
+    }
+    for (const QWidget* const widget : seen_in(window())) {
+        const auto* const button = qobject_cast<const QAbstractButton*>(widget);
+        if (button == nullptr || captions[without_mnemonic(button->text())] > 1) continue;
+        EXPECT_FALSE(QKeySequence::mnemonic(button->text()).isEmpty()) << name_of(*widget);
+    }
+}
+
+// Saves a picture of each state, for those who want to look at them.
+TEST_P(Windows, CanBePainted) {
+    const QPixmap picture = window().grab();
+    EXPECT_FALSE(picture.isNull());
+    const QString folder = qEnvironmentVariable("BROOKLANDER_PICTURES");
+    if (folder.isEmpty()) return;
+    QDir().mkpath(folder);
+    const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1");
+    EXPECT_TRUE(
+        picture.save(QStringLiteral("%1/%2 %3 x%4.png")
+                         .arg(folder, QString::fromStdString(std::get<std::string>(GetParam())),
+                              QString::fromStdString(std::get<Scheme>(GetParam()).name), scale)));
+}
+
+std::vector<std::string> states() {
+    std::vector<std::string> names;
+    for (const auto& [name, road] : roads()) names.push_back(name);
+    return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Windows,
+                         testing::Combine(testing::ValuesIn(states()),
+                                          testing::ValuesIn(schemes())),
+                         [](const auto& parameters) {
+                             std::string name = std::get<std::string>(parameters.param) + " " +
+                                                std::get<Scheme>(parameters.param).name;
+                             std::replace(name.begin(), name.end(), ' ', '_');
+                             return name;
+                         });
+
+// The contrast of two colours, from 1 to 21.
+double contrast(const QColor& one, const QColor& other) {
+    const auto light_of = [](const QColor& colour) {
+        const auto linear = [](double part) {
+            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+               0.0722 * linear(colour.blueF());
+    };
+    const double lighter = std::max(light_of(one), light_of(other));
+    const double darker = std::min(light_of(one), light_of(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+constexpr double readable = 4.5;
+
+TEST(Colours, TextCanBeReadOnEveryTintInLightAndDark) {
+    for (const Scheme& scheme : schemes()) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, scheme.base);
+        palette.setColor(QPalette::Text, scheme.text);
+        const auto colours = colours_of(palette);
+        for (int number = 0; number < 8; ++number) {
+            EXPECT_GE(contrast(colours.text, tint(colours, number)), readable) << scheme.name;
+            EXPECT_GE(contrast(colours.quiet, tint(colours, number)), readable) << scheme.name;
+        }
+        EXPECT_GE(contrast(colours.text, colours.card), readable) << scheme.name;
+        EXPECT_GE(contrast(colours.text, colours.soft), readable) << scheme.name;
+        EXPECT_GE(contrast(colours.quiet, colours.card), readable) << scheme.name;
+        EXPECT_GE(contrast(colours.quiet, colours.page), readable) << scheme.name;
+        EXPECT_GE(contrast(colours.title, colours.card), readable) << scheme.name;
+        EXPECT_GE(contrast(colours.title, colours.page), readable) << scheme.name;
+        EXPECT_GE(contrast(colours.accent_text, colours.accent), readable) << scheme.name;
+    }
+}
+
+}  // namespace
+}  // namespace brooklander::desktop
