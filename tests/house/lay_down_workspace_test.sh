@@ -7,6 +7,7 @@ root=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit
+export HOME=$work/of_the_tester
 passed=0
 failed=0
 
@@ -70,12 +71,6 @@ status 0" "$(lay_down relative)"
 mkdir 'name; of $odd "make"'
 lay_down 'name; of $odd "make"' >/dev/null
 is "a home can have any name" "$everything" "$(names 'name; of $odd "make"')"
-mkdir configured
-echo '.bail off
-CREATE TABLE of_the_user (a);' >configured/.sqliterc
-HOME=$work/configured "$root/tools/lay_down_workspace" >/dev/null 2>&1
-is "settings of sqlite3 have no part in it" "" \
-  "$(sqlite3 -batch -init /dev/null configured/brooklander/keldar.db '.tables of_the_user')"
 
 # A user's own files, in spellings of the user's own.
 mkdir -p own/BrookLander/Samples

@@ -22,7 +22,7 @@ is() {
 # Neither the system's data sources nor the tester's own have a part in this.
 mkdir system
 printf '[SQLite3]\nDriver=libsqlite3odbc.so\n' >system/odbcinst.ini
-export ODBCSYSINI=$work/system ODBCINI=$work/odbc.ini
+export ODBCSYSINI=$work/system ODBCINI=$work/odbc.ini HOME=$work
 unset ODBCSEARCH ODBCINSTINI
 
 make_source() {  # DATABASE_FILE; prints its words, and its status where that is not 0
