@@ -56,8 +56,8 @@ double load_alone(const fs::path& home) {
 }
 
 struct Drawn {
-    double view = 0;    // from the press to the table on the screen
-    double page = 0;    // one page scrolled and painted, on average
+    double view = 0;  // from the press to the table on the screen
+    double page = 0;  // one page scrolled and painted, on average
     double slowest = 0;
 };
 
@@ -77,8 +77,7 @@ Drawn load_drawn(const fs::path& home) {
         QApplication::processEvents();
     });
     const Grid& table = road.screens().frmImportFileDisplay.MSFlexKeldarIN;
-    auto* const grid =
-        dynamic_cast<desktop::GridWidget*>(windows.view_of(table)->widget());
+    auto* const grid = dynamic_cast<desktop::GridWidget*>(windows.view_of(table)->widget());
     for (int page = 0; page < pages; ++page) {
         const double time = milliseconds_of([grid] {
             grid->verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd);
