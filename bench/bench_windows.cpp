@@ -22,6 +22,7 @@
 
 #include "platform/desktop/application.h"
 #include "platform/desktop/grid_widget.h"
+#include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
 #include "road.h"
 #include "sample_table.h"
@@ -63,7 +64,7 @@ struct Drawn {
 
 Drawn load_drawn(const fs::path& home) {
     Road road(home);
-    desktop::Windows windows(road.screens());
+    desktop::Windows windows(road.screens(), desktop::lay_out);
     windows.settle();
     QApplication::processEvents();
     road.up_to_view();

@@ -3,23 +3,12 @@
 # of statements.sql on it as the program's connection is set up.
 #   sample_database_test.sh SQL_FILE
 set -uo pipefail
+. "$(dirname "$0")/../support/checks.sh"
 sql_file=$(realpath "$1")
 statements=$(dirname "$(realpath "$0")")/statements.sql
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 database=$work/keldar.db
-passed=0
-failed=0
-
-# holds NAME WRONG: WRONG, what speaks against NAME, must be empty.
-holds() {
-  if [[ -z $2 ]]; then
-    passed=$((passed + 1))
-  else
-    failed=$((failed + 1))
-    printf '%s: found\n%s\n' "$1" "$2"
-  fi
-}
 
 query() {  # SQL
   sqlite3 -batch -bail "$database" "$1" 2>&1
@@ -94,5 +83,4 @@ holds "the outer join is told apart from the plain one" "$([[ $joined != "$plain
 holds "the outer join finds what the plain one finds" \
   "$(diff <(connected "$plain") <(connected "$joined"))"
 
-echo "$passed passed, $failed failed"
-[[ $failed -eq 0 ]]
+count

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTest>
 
+#include "platform/desktop/layouts.h"
 #include "platform/desktop/warnings.h"
 #include "platform/desktop/windows.h"
 #include "support/test_program.h"
@@ -34,7 +35,7 @@ struct DrawnProgram : TestProgram {
 
     desktop::ScreenWindow& start_window() { return *windows.window_of(start_screen()); }
 
-    desktop::Windows windows{program.screens()};
+    desktop::Windows windows{program.screens(), desktop::lay_out};
     std::string failure;
     bool has_ended = false;
 };

@@ -13,6 +13,7 @@
 #include <map>
 
 #include "desktop/drawn_program.h"
+#include "platform/desktop/colours.h"
 #include "platform/desktop/grid_widget.h"
 #include "platform/desktop/plain_views.h"
 #include "platform/desktop/texts.h"

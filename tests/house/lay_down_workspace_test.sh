@@ -2,24 +2,13 @@
 # What is laid down in a home folder, what of the user's own is left alone, and what is told when it
 # cannot be done.
 set -uo pipefail
+. "$(dirname "$0")/../support/checks.sh"
 export LC_ALL=C
 root=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit
 export HOME=$work/of_the_tester
-passed=0
-failed=0
-
-# is NAME EXPECTED FOUND
-is() {
-  if [[ $2 == "$3" ]]; then
-    passed=$((passed + 1))
-  else
-    failed=$((failed + 1))
-    printf '%s: expected\n%s\nfound\n%s\n' "$1" "$2" "$3"
-  fi
-}
 
 # Both what it prints and what it complains of, with its status behind.
 lay_down() {  # [TOOLS] HOME
@@ -122,5 +111,4 @@ status 1" "$(lay_down broken/tools "$work/broken/home")"
 is "a script that fails leaves nothing of the database" "$(grep -v keldar.db <<<"$everything")" \
   "$(names broken/home)"
 
-echo "$passed passed, $failed failed"
-[[ $failed -eq 0 ]]
+count

@@ -1,23 +1,12 @@
 #!/usr/bin/env bash
 # The data source is made where unixODBC looks for it, once, and nothing else in that file changes.
 set -uo pipefail
+. "$(dirname "$0")/../support/checks.sh"
 export LC_ALL=C
 root=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit
-passed=0
-failed=0
-
-# is NAME EXPECTED FOUND
-is() {
-  if [[ $2 == "$3" ]]; then
-    passed=$((passed + 1))
-  else
-    failed=$((failed + 1))
-    printf '%s: expected\n%s\nfound\n%s\n' "$1" "$2" "$3"
-  fi
-}
 
 # Neither the system's data sources nor the tester's own have a part in this.
 mkdir system
@@ -128,5 +117,4 @@ else
   echo "Left out: the file in the home of the user database."
 fi
 
-echo "$passed passed, $failed failed"
-[[ $failed -eq 0 ]]
+count

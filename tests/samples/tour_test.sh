@@ -2,24 +2,13 @@
 # The guided tour plays in a home of its own and leaves the load file and all its pictures there.
 #   tour_test.sh PLAYER
 set -uo pipefail
+. "$(dirname "$0")/../support/checks.sh"
 export LC_ALL=C
 player=$(realpath "$1")
 root=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit
-passed=0
-failed=0
-
-# is NAME EXPECTED FOUND
-is() {
-  if [[ $2 == "$3" ]]; then
-    passed=$((passed + 1))
-  else
-    failed=$((failed + 1))
-    printf '%s: expected\n%s\nfound\n%s\n' "$1" "$2" "$3"
-  fi
-}
 
 # A user for the tour to leave alone, so that even a tour gone wrong does not reach the tester.
 mkdir user system
@@ -47,5 +36,4 @@ is "the user's home and data sources have no part in it" "odbc.ini: 0 bytes" \
 again=$("$root/tools/play_tour" "$player" "$work/tour" 2>&1)
 is "it can be played again" "$said" "$again"
 
-echo "$passed passed, $failed failed"
-[[ $failed -eq 0 ]]
+count

@@ -2,21 +2,10 @@
 # The files that an installation lays down in the workspace: the four reference lists and the help.
 #   workspace_files_test.sh SAMPLES_FOLDER
 set -uo pipefail
+. "$(dirname "$0")/../support/checks.sh"
 export LC_ALL=C
 database=$(realpath "$1")/keldar.sql
 cd "$1/workspace" || exit
-passed=0
-failed=0
-
-# holds NAME WRONG: WRONG, what speaks against NAME, must be empty.
-holds() {
-  if [[ -z $2 ]]; then
-    passed=$((passed + 1))
-  else
-    failed=$((failed + 1))
-    printf '%s: found\n%s\n' "$1" "$2"
-  fi
-}
 
 # The entries of a list, as the program's lists show them.
 entries() {  # FILE
@@ -51,5 +40,4 @@ holds "each element of the help is closed" "$(comm -3 \
   <(grep -oE '<(h[1-3]|p|ul|ol|li|table|tr|td|th|a|b|i|tt)[ >]' $help | tr -d '<> ' | sort) \
   <(grep -oE '</(h[1-3]|p|ul|ol|li|table|tr|td|th|a|b|i|tt)>' $help | tr -d '</>' | sort))"
 
-echo "$passed passed, $failed failed"
-[[ $failed -eq 0 ]]
+count

@@ -10,6 +10,7 @@
 #include "platform/desktop/drawn_user.h"
 #include "platform/desktop/failure_box.h"
 #include "platform/desktop/help_window.h"
+#include "platform/desktop/layouts.h"
 #include "platform/desktop/warnings.h"
 #include "platform/desktop/windows.h"
 #include "platform/fatal_failure.h"
@@ -29,7 +30,7 @@ class DrawnFront : public scenario::Front {
     Help& help() override { return help_; }
 
     void start(Program& program) override {
-        windows_ = std::make_unique<Windows>(program.screens());
+        windows_ = std::make_unique<Windows>(program.screens(), lay_out);
         windows_->on_failure = [this](const QString& sentence) {
             failure_ = std::make_unique<FailureBox>(sentence);
             failure_->open();

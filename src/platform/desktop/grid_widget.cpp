@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
+#include "platform/desktop/colours.h"
 
 namespace brooklander::desktop {
 namespace {

@@ -11,8 +11,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/desktop/colours.h"
 #include "platform/desktop/field_view.h"
-#include "platform/desktop/theme.h"
 #include "shared/grid.h"
 
 namespace brooklander::desktop {

@@ -7,6 +7,7 @@
 
 #include "import/column_assignment.h"
 #include "platform/desktop/layouts.h"
+#include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
 namespace {

@@ -6,6 +6,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "platform/desktop/colours.h"
 #include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {

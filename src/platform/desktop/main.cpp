@@ -8,6 +8,7 @@
 #include "platform/desktop/application.h"
 #include "platform/desktop/failure_box.h"
 #include "platform/desktop/help_window.h"
+#include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
 #include "platform/files/host_files.h"
 #include "program.h"
@@ -23,7 +24,7 @@ int run(int argc, char** argv) {
     OdbcDatabase database;
     HelpWindow help(files);
     Program program({files, database, help});
-    Windows windows(program.screens());
+    Windows windows(program.screens(), lay_out);
 
     // Both can come before the event loop runs, so that they wait for it.
     const auto exit_with = [](int status) {

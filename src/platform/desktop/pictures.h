@@ -4,7 +4,7 @@
 #include <QIcon>
 #include <QPixmap>
 
-#include "platform/desktop/theme.h"
+#include "platform/desktop/colours.h"
 
 namespace brooklander::desktop {
 

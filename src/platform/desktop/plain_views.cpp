@@ -10,6 +10,7 @@
 #include <QValidator>
 #include <algorithm>
 
+#include "platform/desktop/colours.h"
 #include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {

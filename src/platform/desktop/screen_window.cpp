@@ -10,6 +10,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "platform/desktop/colours.h"
 #include "platform/desktop/pictures.h"
 
 namespace brooklander::desktop {

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "platform/desktop/layouts.h"
+#include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
 namespace {

@@ -5,13 +5,13 @@
 #include <new>
 #include <utility>
 
-#include "platform/desktop/layouts.h"
 #include "platform/desktop/menu_views.h"
 #include "platform/fatal_failure.h"
 
 namespace brooklander::desktop {
 
-Windows::Windows(Screens& screens) : screens_(screens) {
+Windows::Windows(Screens& screens, LayOut lay_out)
+    : screens_(screens), lay_out_(std::move(lay_out)) {
     for (Screen* const screen : screens.desk.screens()) watch(*screen);
 }
 
@@ -108,7 +108,7 @@ void Windows::open_window(Screen& screen) {
     window = std::make_unique<ScreenWindow>(screen);
     window->on_close = [this, &screen] { close_by_frame(screen); };
     for (auto& menu : fill_menu_bar(*window->menuBar(), screen, *this)) add(std::move(menu));
-    lay_out(screens_, screen, *window, *this);
+    lay_out_(screens_, screen, *window, *this);
 }
 
 // The new foremost window comes up where the last one stood; the hidden ones go when it is there.

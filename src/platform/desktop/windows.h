@@ -13,13 +13,19 @@
 
 namespace brooklander::desktop {
 
+class Windows;
+
+// Lays a screen's fields out in its window.
+using LayOut =
+    std::function<void(Screens& screens, Screen& screen, ScreenWindow& window, Windows& windows)>;
+
 // A screen's window is made when the screen is first shown. Fields and screens tell of their
 // changes while a step runs; the windows follow when the step is done, or when it turns the pointer
 // to busy, since it will block then.
 class Windows : public Acts {
   public:
     // The screens must outlive the windows, and no step may run once the windows are gone.
-    explicit Windows(Screens& screens);
+    Windows(Screens& screens, LayOut lay_out);
     ~Windows() override;
 
     // Called when the program has ended by its own exit, and when a failure has ended it, with the
@@ -66,6 +72,7 @@ class Windows : public Acts {
     QString difference_of(const Screen& screen) const;
 
     Screens& screens_;
+    LayOut lay_out_;
     std::unordered_map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
     std::vector<std::unique_ptr<FieldView>> views_;
     std::unordered_map<const Field*, FieldView*> view_of_;
