@@ -12,6 +12,7 @@
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/pictures.h"
+#include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
 namespace {
