@@ -7,7 +7,7 @@
 namespace brooklander {
 
 // Opens the configuration manager for work on configuration files: nothing chosen there, nothing
-// left on the screens of the sequence behind it, and only the two options that make or change a
+// left in the labels and boxes of the screens behind it, and only the two options that make or change a
 // file to choose from.
 void mnuPreferences_Click(Screens& screens);
 

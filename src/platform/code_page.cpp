@@ -132,6 +132,12 @@ std::string from_utf8_or_bytes(std::string_view text) {
     return bytes;
 }
 
+bool can_be_typed(char character) {
+    constexpr std::string_view without_letter = "\x7F\x81\x8D\x8F\x90\x9D";
+    return static_cast<unsigned char>(character) >= ' ' &&
+           without_letter.find(character) == std::string_view::npos;
+}
+
 std::string upper(std::string_view text) {
     std::string capitals(text);
     std::transform(capitals.begin(), capitals.end(), capitals.begin(), capital_of);

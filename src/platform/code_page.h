@@ -25,6 +25,10 @@ bool is_utf8(std::string_view text);
 // that the code page lacks; anything else is bytes of the code page already.
 std::string from_utf8_or_bytes(std::string_view text);
 
+// Whether a key can type the character: all of the code page but its control characters, for which
+// the five bytes without a letter stand, too.
+bool can_be_typed(char character);
+
 // The text with every letter that has a capital in the code page made one. Letters without one
 // there (the sharp s, the micro sign) stay.
 std::string upper(std::string_view text);

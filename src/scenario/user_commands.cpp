@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/code_page.h"
 #include "scenario/arguments.h"
 #include "scenario/scenario_error.h"
 #include "scenario/stage.h"
@@ -29,8 +30,7 @@ UserAct click_act(const Arguments& arguments) {
 UserAct type_act(const Arguments& arguments) {
     arguments.want(2);
     const std::string& text = arguments.text(1);
-    const auto no_key = [](char byte) { return static_cast<unsigned char>(byte) < ' '; };
-    if (std::any_of(text.begin(), text.end(), no_key)) {
+    if (!std::all_of(text.begin(), text.end(), can_be_typed)) {
         throw WrongLine("A character that no key types stands in the text.");
     }
     return {arguments.field(0, {text_box}), [](Field&) {},

@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "platform/code_page.h"
 #include "scenario/scenario_error.h"
 #include "scenario/words.h"
 
@@ -55,7 +56,7 @@ std::vector<Key> keys_in(std::string_view text) {
             keys.push_back(take_named_key(text));
             continue;
         }
-        if (static_cast<unsigned char>(text.front()) < ' ') {
+        if (!can_be_typed(text.front())) {
             throw WrongLine("A character that no key types stands among the keys.");
         }
         keys.push_back(Key::of(text.front()));

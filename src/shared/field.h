@@ -90,7 +90,7 @@ class Field {
     bool focused() const;
 
     // Calls back after every change of anything that the field holds. There is no way to take an
-    // observer off: windows live as long as the fields.
+    // observer off: what watches must take no step once it is gone.
     void observe(std::function<void()> observer);
 
   protected:

@@ -26,8 +26,12 @@ void TextBox::type(std::string_view text) {
         clear_text();
         return;
     }
+    const bool was_usable = usable();
     set_text(text.substr(0, 1));
-    for (const char character : text.substr(1)) set_text(this->text() + character);
+    for (const char character : text.substr(1)) {
+        if (usable() != was_usable) break;
+        set_text(this->text() + character);
+    }
 }
 
 void TextBox::press_keys(const std::vector<Key>& keys) {

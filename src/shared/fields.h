@@ -86,7 +86,7 @@ class TextBox : public PlacedField {
 
     // Marks all that stands there and types the text over it, one change for each character; an
     // empty text deletes what stands there. A first character that is all that stood there changes
-    // nothing.
+    // nothing. Characters behind one that has hidden or disabled the box do not reach it.
     void type(std::string_view text);
 
     // Presses keys one after the other, the caret standing at the text's end before the first. Tab

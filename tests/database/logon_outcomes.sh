@@ -13,8 +13,8 @@ failed=0
 play() {
   local way
   for way in '' --drawn; do
-    ODBCINI=$2 "${player[@]}" $way --home "$home" --with USER="$POSTGRES_USER" \
-      --with PASSWORD="$POSTGRES_PASSWORD" "$here/$3" ||
+    ODBCINI=$2 ODBCSEARCH=ODBC_USER_DSN "${player[@]}" $way --home "$home" \
+      --with USER="$POSTGRES_USER" --secret PASSWORD "$here/$3" <<<"$POSTGRES_PASSWORD" ||
       { echo "$1 ${way:-undrawn}: FAILED"; failed=1; }
   done
 }

@@ -163,6 +163,12 @@ TEST_F(PostgresSource, NothingIsEverWritten) {
     EXPECT_THAT(refusal_of("WITH x AS (INSERT INTO tsruom VALUES ('x', 'y') RETURNING 1) "
                            "SELECT * FROM x"),
                 HasSubstr("in a read-only transaction"));
+    for (const char* const hidden : {"E'\\''", "$$'$$"}) {
+        EXPECT_THAT(refusal_of("SELECT " + std::string(hidden) +
+                               "; COMMIT; BEGIN READ WRITE; INSERT INTO tsruom VALUES ('x', 'y'); "
+                               "COMMIT --'"),
+                    HasSubstr("is not sent"));
+    }
     EXPECT_THAT(rows("SELECT short_form_name FROM tsruom WHERE short_form_name = 'x'"), IsEmpty());
 }
 

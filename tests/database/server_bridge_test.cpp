@@ -117,6 +117,10 @@ TEST(ServerBridge, APatternCanBeMoreThanAText) {
 }
 
 TEST(ServerBridge, AnEscapeCharacterThatIsGivenStays) {
+    EXPECT_EQ(bridged_statement(Server::postgresql, "SELECT a FROM b WHERE c LIKE /* x */ 'a'"),
+              "SELECT a FROM b WHERE c LIKE /* x */ 'a' ESCAPE ''");
+    EXPECT_EQ(bridged_statement(Server::postgresql, "SELECT a FROM b WHERE c LIKE \"d e\""),
+              "SELECT a FROM b WHERE c LIKE \"d e\" ESCAPE ''");
     constexpr auto statement = "SELECT a FROM b WHERE c LIKE '!%%' ESCAPE '!'";
     EXPECT_EQ(on_postgresql(statement), statement);
 }
@@ -162,6 +166,22 @@ TEST(StatementText, NothingCanFollowAQuery) {
     EXPECT_FALSE(is_query("SELECT a FROM b; DELETE FROM b"));
     EXPECT_FALSE(is_query("SELECT a FROM b WHERE c = ''; DELETE FROM b --'"));
     EXPECT_TRUE(is_query("SELECT a FROM b WHERE c = 'x; y' AND \"d;\" = 1 /* ; */ -- ;"));
+}
+
+// What one server takes for the end of a text is in the middle of it for another.
+TEST(StatementText, QuotesOfAServersOwnAreNoPartOfAQuery) {
+    EXPECT_FALSE(is_query(R"(SELECT E'\'' ; COMMIT; INSERT INTO b VALUES (1) --')"));
+    EXPECT_FALSE(is_query("SELECT $$'$$ ; INSERT INTO b VALUES (1) --'"));
+    EXPECT_FALSE(is_query("SELECT $x$'$x$ ; INSERT INTO b VALUES (1) --'"));
+    EXPECT_FALSE(is_query("SELECT q'[']' FROM b"));
+    EXPECT_FALSE(is_query("SELECT U&'d' FROM b"));
+    EXPECT_TRUE(is_query("SELECT v$session.name FROM b WHERE name LIKE'$5'"));
+}
+
+TEST(StatementText, AQueryKeepsAndLocksNothing) {
+    EXPECT_FALSE(is_query("SELECT a INTO c FROM b"));
+    EXPECT_FALSE(is_query("SELECT a FROM b FOR UPDATE"));
+    EXPECT_TRUE(is_query("SELECT updated, 'into' FROM b"));
 }
 
 }  // namespace

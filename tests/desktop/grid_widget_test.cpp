@@ -138,6 +138,31 @@ TEST_F(DrawnGrid, PageAndEndKeysMoveFarAndTheCurrentCellStaysInSight) {
     EXPECT_TRUE(clicks_.empty());
 }
 
+TEST_F(DrawnGrid, AKeyThatMovesNothingLeavesACurrentCellInTheHeadings) {
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    fill(3);
+    widget_->setFocus();
+    QTest::keyClick(widget_, Qt::Key_Escape);
+    EXPECT_EQ(grid().current(), (GridCell{0, 0}));
+    QTest::keyClick(widget_, Qt::Key_End);
+    EXPECT_EQ(grid().current(), (GridCell{1, 2}));
+    EXPECT_TRUE(grid().focused());
+}
+
+TEST_F(DrawnGrid, ACaptionInAHeadingMovesNoColumn) {
+    std::string caption;
+    widget_->set_column_marks([&caption](int column) {
+        return column == 0 ? ColumnMark{QString::fromStdString(caption), 1} : ColumnMark{};
+    });
+    fill(3);
+    const QRect before = widget_->cell_place({0, 1});
+    caption = "Sample/Activity ID";
+    view_->follow();
+    EXPECT_EQ(widget_->cell_place({0, 1}), before);
+    EXPECT_EQ(widget_->heading_text(0), "1  Sample/Activity ID");
+}
+
 TEST_F(DrawnGrid, AGridThatIsTypedIntoGetsEveryKey) {
     fill(3);
     std::string typed_keys;
@@ -207,6 +232,8 @@ TEST_F(DrawnGrid, TheBorderOfAColumnCanBeDragged) {
     QApplication::sendEvent(widget_->viewport(), &move);
     QTest::mouseRelease(widget_->viewport(), Qt::LeftButton, {}, border + QPoint(40, 0));
     EXPECT_EQ(widget_->cell_place({0, 0}).width(), before + 40);
+    QTest::mouseDClick(widget_->viewport(), Qt::LeftButton, {}, border + QPoint(40, 0));
+    EXPECT_EQ(widget_->cell_place({0, 0}).width(), before);
     EXPECT_TRUE(clicks_.empty());
 }
 
@@ -226,6 +253,10 @@ TEST_F(DrawnGrid, AScreenReaderFindsEveryCell) {
     EXPECT_EQ(table.selectedCells().front()->text(QAccessible::Name), "b1");
     EXPECT_EQ(whole->indexOfChild(table.cellAt(2, 1)), 7);
     EXPECT_EQ(whole->child(7), table.cellAt(2, 1));
+    table.cellAt(0, 2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(clicks_.back(), (GridCell{1, 2}));
+    EXPECT_EQ(table.columnDescription(100000000), "");
+    EXPECT_EQ(table.rowDescription(-1), "");
 }
 
 }  // namespace

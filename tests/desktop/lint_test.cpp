@@ -245,7 +245,21 @@ TEST_P(Windows, HaveANameOnEveryControl) {
     }
 }
 
-// From one control to the next it goes down or to the right, in cards and among them.
+// The card that a control lies on; null for none.
+const Card* card_of(const QWidget* widget) {
+    while (widget != nullptr && dynamic_cast<const Card*>(widget) == nullptr) {
+        widget = widget->parentWidget();
+    }
+    return static_cast<const Card*>(widget);
+}
+
+// Whether the second comes behind the first for a reader: in rows, or down a column to the next.
+bool reads_on(const QRect& first, const QRect& second) {
+    const bool same_row = second.top() < first.bottom() && second.bottom() > first.top();
+    return same_row ? second.left() > first.left()
+                    : second.top() > first.top() || second.left() > first.right();
+}
+
 TEST_P(Windows, HaveATabOrderThatFollowsTheReading) {
     std::vector<QWidget*> chain;
     for (QWidget* at = window().nextInFocusChain(); at != &window(); at = at->nextInFocusChain()) {
@@ -254,11 +268,20 @@ TEST_P(Windows, HaveATabOrderThatFollowsTheReading) {
             chain.push_back(at);
         }
     }
+    const auto place_of = [this](const QWidget* widget) {
+        return QRect(widget->mapTo(&window(), QPoint(0, 0)), widget->size());
+    };
+    std::vector<const Card*> left;
     for (std::size_t at = 1; at < chain.size(); ++at) {
-        const QPoint before = chain[at - 1]->mapTo(&window(), QPoint(0, 0));
-        const QPoint here = chain[at]->mapTo(&window(), QPoint(0, 0));
-        EXPECT_TRUE(here.x() > before.x() || here.y() > before.y())
+        const Card* const before = card_of(chain[at - 1]);
+        const Card* const here = card_of(chain[at]);
+        const bool same = before == here;
+        EXPECT_TRUE(same ? reads_on(place_of(chain[at - 1]), place_of(chain[at]))
+                         : reads_on(place_of(before), place_of(here)))
             << name_of(*chain[at - 1]) << " before " << name_of(*chain[at]);
+        if (!same) left.push_back(before);
+        EXPECT_EQ(std::count(left.begin(), left.end(), here), 0)
+            << name_of(*chain[at]) << " comes when its card has been left";
     }
 }
 

@@ -51,7 +51,9 @@ TEST(WindowsFollow, ADifferenceBetweenWidgetAndFieldIsTold) {
 
 TEST(WindowsFollow, WhatAMaskedBoxHoldsIsNotToldInADifference) {
     Started drawn;
-    drawn.widget<QLineEdit>(drawn.start_screen().txtOraclePassWord)->setText("hidden");
+    auto* const box = drawn.widget<QLineEdit>(drawn.start_screen().txtOraclePassWord);
+    const QSignalBlocker quiet(box);
+    box->setText("hidden");
     EXPECT_EQ(drawn.windows.difference(),
               "frmStart.txtOraclePassWord holds another text on the screen.");
 }
@@ -93,6 +95,64 @@ TEST(WindowsFollow, TheProgramsOwnExitHidesAllWindows) {
     QTest::mouseClick(drawn.widget(drawn.start_screen().cmdYes), Qt::LeftButton);
     EXPECT_TRUE(drawn.has_ended);
     EXPECT_FALSE(drawn.start_window().isVisible());
+}
+
+TEST(WindowsFollow, AFailureWhileTheyFollowEndsTheProgramToo) {
+    class Exhausted : public FieldView {
+      public:
+        explicit Exhausted(Field& field) : field_(field) {}
+        const Field& field() const override { return field_; }
+        QWidget* widget() const override { return nullptr; }
+        void follow() override { throw std::bad_alloc(); }
+        QString difference() const override { return {}; }
+
+      private:
+        Field& field_;
+    };
+    Started drawn;
+    drawn.windows.add(std::make_unique<Exhausted>(drawn.start_screen().lblTripIsNumber));
+    drawn.act([] {});
+    EXPECT_EQ(drawn.failure, "The memory is exhausted.");
+}
+
+TEST(WindowsAct, AWidgetThatHasNotNoticedThatItsFieldIsDisabledDoesNothing) {
+    Started drawn;
+    FrmStart& start = drawn.start_screen();
+    drawn.act([&] { start.txtOracleID.set_text("jdoe"); });
+    drawn.act([&] { start.frameOracleLogon.disable(); });
+    QTest::mouseClick(drawn.widget(start.txtOracleID), Qt::LeftButton);
+    EXPECT_EQ(start.txtOracleID.text(), "jdoe");
+}
+
+// Presses can come from outside while a step has the windows painted.
+TEST(WindowsAct, NothingElseActsWhileAStepRuns) {
+    Started drawn;
+    FrmStart& start = drawn.start_screen();
+    auto* const user = drawn.widget<QLineEdit>(start.txtOracleID);
+    drawn.act([&] {
+        QMetaObject::invokeMethod(
+            qApp, [user] { user->setText("pressed in between"); }, Qt::QueuedConnection);
+        start.set_pointer(Pointer::busy);
+        start.set_pointer(Pointer::normal);
+    });
+    EXPECT_EQ(start.txtOracleID.text(), "");
+    EXPECT_EQ(user->text(), "");
+}
+
+TEST(WindowsAct, WhatAUserDoesWhileAStepBlocksIsDropped) {
+    Started drawn;
+    FrmStart& start = drawn.start_screen();
+    QWidget* const user = drawn.widget(start.txtOracleID);
+    drawn.act([&] {
+        start.set_pointer(Pointer::busy);
+        QCoreApplication::postEvent(
+            user, new QKeyEvent(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "x"));
+    });
+    DrawnProgram::rest();
+    EXPECT_EQ(start.txtOracleID.text(), "");
+    drawn.act([&] { start.set_pointer(Pointer::normal); });
+    QTest::keyClick(user, Qt::Key_X);
+    EXPECT_EQ(start.txtOracleID.text(), "x");
 }
 
 TEST(WindowsOpen, AWindowComesUpWhereTheLastOneStoodInTheSameSize) {
@@ -230,6 +290,48 @@ TEST(WindowsKeyboard, ASetFocusStepMovesTheKeyboard) {
     EXPECT_EQ(QApplication::focusWidget(), drawn.widget(start.cmdOracleErrorOk));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), drawn.widget(start.txtOracleID));
+}
+
+TEST(WindowsKeyboard, AQuestionThatIsAskedAgainGetsTheKeyboardAgain) {
+    Started drawn;
+    const auto ask = [&] {
+        drawn.act([&] {
+            drawn.start_screen().hide();
+            drawn.import_screen().frameImportConfirm.show();
+            drawn.import_screen().show();
+        });
+    };
+    ask();
+    QTest::mouseClick(drawn.widget(drawn.import_screen().cmdNo), Qt::LeftButton);
+    ask();
+    EXPECT_EQ(QApplication::focusWidget(), drawn.widget(drawn.import_screen().cmdYes));
+}
+
+TEST(WindowsKeyboard, TabLeadsToTheFilledButtonOnceAStepIsComplete) {
+    Started drawn;
+    FrmStart& start = drawn.start_screen();
+    auto* const user = drawn.widget(start.txtOracleID);
+    auto* const password = drawn.widget(start.txtOraclePassWord);
+    password->setFocus();
+    QTest::keyClicks(password, "secret");
+    user->setFocus();
+    QTest::keyClicks(user, "jdoe");
+    QTest::keyClick(user, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), drawn.widget(start.cmdUIDok));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(QApplication::focusWidget(), password);
+}
+
+TEST(WindowsKeyboard, WhenAControlGoesTheNewCardGetsTheKeyboard) {
+    Started drawn;
+    FrmStart& start = drawn.start_screen();
+    drawn.act([&] {
+        start.txtOracleID.set_text("jdoe");
+        start.txtOraclePassWord.set_text("secret");
+    });
+    QTest::keyClick(drawn.widget(start.txtOracleID), Qt::Key_Return);
+    drawn.act([&] { start.mnuImport.choose(); });
+    EXPECT_EQ(QApplication::focusWidget(), drawn.widget(start.Drive1));
 }
 
 TEST(WindowsKeyboard, TheFirstWindowBeginsAtTheUserId) {

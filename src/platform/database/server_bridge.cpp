@@ -60,8 +60,15 @@ void attach_as_schema(const Ask& ask) {
     }
 }
 
+// Comments are as good as blanks.
 std::size_t skip_blanks(std::string_view statement, std::size_t at) {
-    while (at < statement.size() && is_blank(statement[at])) ++at;
+    const auto comment = [&] {
+        const std::string_view mark = statement.substr(at, 2);
+        return mark == "--" || mark == "/*";
+    };
+    while (at < statement.size() && (is_blank(statement[at]) || comment())) {
+        at = end_of_piece(statement, at);
+    }
     return at;
 }
 
@@ -86,15 +93,20 @@ std::size_t end_of_operand(std::string_view statement, std::size_t at) {
         while (starts_with('\'')) at = end_of_piece(statement, at);
         return at;
     }
-    while (at < statement.size() && (is_word(statement[at]) || statement[at] == '.')) ++at;
+    while (at < statement.size() &&
+           (is_word(statement[at]) || statement[at] == '.' || statement[at] == '"')) {
+        at = end_of_piece(statement, at);
+    }
     if (starts_with('(')) at = end_of_parentheses(statement, at);
     return at;
 }
 
-// Behind a pattern: operands with `||` between them.
+// Behind a pattern: operands with `||` between them. Where none is understood, nothing is passed.
 std::size_t end_of_pattern(std::string_view statement, std::size_t at) {
     constexpr std::string_view joined = "||";
-    std::size_t end = end_of_operand(statement, skip_blanks(statement, at));
+    const std::size_t start = skip_blanks(statement, at);
+    std::size_t end = end_of_operand(statement, start);
+    if (end == start) return at;
     for (;;) {
         const std::size_t next = skip_blanks(statement, end);
         if (statement.substr(next, joined.size()) != joined) return end;
@@ -125,9 +137,11 @@ std::string with_plain_patterns(std::string_view statement) {
         if (!word_at(statement, at, "LIKE")) {
             whole += statement.substr(at, end - at);
         } else {
-            end = end_of_pattern(statement, at + std::string_view("LIKE").size());
+            const std::size_t behind = at + std::string_view("LIKE").size();
+            end = end_of_pattern(statement, behind);
             whole += statement.substr(at, end - at);
-            if (!word_at(statement, skip_blanks(statement, end), "ESCAPE")) whole += " ESCAPE ''";
+            const bool is_plain = !word_at(statement, skip_blanks(statement, end), "ESCAPE");
+            if (end > behind && is_plain) whole += " ESCAPE ''";
         }
         at = end;
     }

@@ -38,12 +38,33 @@ bool word_at(std::string_view statement, std::size_t at, std::string_view word) 
            (end == statement.size() || !is_word(statement[end]));
 }
 
+namespace {
+
+// A dollar that no name has before it, and a quote with a letter or two as its prefix.
+bool begins_another_quote(std::string_view statement, std::size_t at) {
+    const auto is_apart = [statement](std::size_t place) {
+        return place == 0 || !is_word(statement[place - 1]);
+    };
+    if (statement[at] == '$') return is_apart(at);
+    for (const std::string_view prefix : {"E'", "B'", "X'", "N'", "Q'", "NQ'", "U&'", "U&\""}) {
+        if (is_apart(at) && same_but_for_case(statement.substr(at, prefix.size()), prefix)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
 bool is_query(std::string_view statement) {
     const auto* const start = std::find_if_not(statement.begin(), statement.end(), is_blank);
     const auto at = static_cast<std::size_t>(start - statement.begin());
     if (!word_at(statement, at, "SELECT") && !word_at(statement, at, "WITH")) return false;
     for (std::size_t next = at; next < statement.size(); next = end_of_piece(statement, next)) {
-        if (statement[next] == ';') return false;
+        if (statement[next] == ';' || begins_another_quote(statement, next) ||
+            word_at(statement, next, "INTO") || word_at(statement, next, "UPDATE")) {
+            return false;
+        }
     }
     return true;
 }

@@ -10,6 +10,7 @@ namespace brooklander::desktop {
 std::unique_ptr<QApplication> make_application(int& argc, char** argv) {
     auto application = std::make_unique<QApplication>(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("brooklander"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Brooklander"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // Without a desktop there is no font of the desktop's own; pictures then are the same anywhere.
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {

@@ -19,6 +19,7 @@ QWidget* Draw::parent_of(const Field& field) const {
 Card* Draw::card(Panel& panel) {
     auto* const card = new Card(parent_of(panel));
     windows_.add(panel_view(panel, card));
+    window_.holds(card);
     return card;
 }
 
@@ -54,8 +55,10 @@ QLabel* Draw::heading(Label& label, qreal larger_by) {
 
 QPushButton* Draw::button(Button& button, char letter, Weight weight) {
     auto* const widget = new QPushButton(parent_of(button));
-    if (weight == Weight::filled) mark(*widget, "filled");
-    widget->setAccessibleName(shown(button.text()).trimmed());
+    if (weight == Weight::filled) {
+        mark(*widget, "filled");
+        window_.moves_on(widget);
+    }
     keep_place(widget);
     windows_.add(button_view(button, widget, letter, windows_));
     return widget;
@@ -63,14 +66,14 @@ QPushButton* Draw::button(Button& button, char letter, Weight weight) {
 
 QCheckBox* Draw::tick_box(TickBox& box, char letter) {
     auto* const widget = new QCheckBox(parent_of(box));
-    widget->setAccessibleName(shown(box.empty() ? box.name() : box.text()));
+    if (box.empty()) widget->setAccessibleName(shown(box.name()));
     windows_.add(tick_box_view(box, widget, letter, windows_));
     return widget;
 }
 
 QRadioButton* Draw::option(Option& option, char letter) {
     auto* const widget = new QRadioButton(parent_of(option));
-    widget->setAccessibleName(shown(option.empty() ? option.name() : option.text()));
+    if (option.empty()) widget->setAccessibleName(shown(option.name()));
     windows_.add(option_view(option, widget, letter, windows_));
     return widget;
 }
@@ -101,7 +104,7 @@ ListWidget* Draw::list(EntryList& list, const QString& name) {
 }
 
 QComboBox* Draw::pick_list(EntryList& list, const QString& name) {
-    auto* const widget = new QComboBox(parent_of(list));
+    auto* const widget = new PickListBox(parent_of(list));
     widget->setAccessibleName(name);
     widget->setMinimumHeight(control_height);
     windows_.add(pick_list_view(list, widget, windows_));

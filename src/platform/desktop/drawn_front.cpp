@@ -30,6 +30,7 @@ class DrawnFront : public scenario::Front {
     Help& help() override { return help_; }
 
     void start(Program& program) override {
+        take_warning();  // of an earlier program's end
         windows_ = std::make_unique<Windows>(program.screens(), lay_out);
         windows_->on_failure = [this](const QString& sentence) {
             failure_ = std::make_unique<FailureBox>(sentence);

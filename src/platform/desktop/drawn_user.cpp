@@ -93,6 +93,22 @@ void open_and_choose(QComboBox& box, int index) {
     QTest::keyClick(popup, Qt::Key_Return);
 }
 
+// A cell that has no room on the screen, in a column of no width, is reached by the arrow keys.
+void click_by_keyboard(const Grid& grid, QWidget* widget, GridCell cell) {
+    widget->setFocus(Qt::TabFocusReason);
+    const auto go = [&](int steps, Qt::Key forward, Qt::Key back) {
+        for (int step = 0; step < std::abs(steps); ++step) {
+            QTest::keyClick(widget, steps > 0 ? forward : back);
+        }
+    };
+    go(cell.row - grid.current().row, Qt::Key_Down, Qt::Key_Up);
+    go(cell.column - grid.current().column, Qt::Key_Right, Qt::Key_Left);
+    if (!(grid.current() == cell)) {
+        throw Unmet(grid.path() + " does not let the arrow keys come to that cell.");
+    }
+    QTest::keyClick(widget, Qt::Key_Return);
+}
+
 }  // namespace
 
 void DrawnUser::click(Field& field) const {
@@ -131,7 +147,10 @@ void DrawnUser::type(TextBox& box, const std::string& text) const {
     widget->setFocus(Qt::TabFocusReason);
     QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
     if (text.empty()) QTest::keyClick(widget, Qt::Key_Delete);
-    for (const char character : text) press(widget, Key::of(character));
+    for (const char character : text) {
+        if (!box.usable()) break;
+        press(widget, Key::of(character));
+    }
 }
 
 void DrawnUser::click_entry(EntryList& list, int index) const {
@@ -152,6 +171,10 @@ void DrawnUser::click_cell(Grid& grid, GridCell cell) const {
     auto* const widget = static_cast<GridWidget*>(widget_of(windows_, grid));
     widget->bring_into_view(cell);
     const QRect place = widget->cell_place(cell);
+    if (place.isEmpty() && !grid.on_key && cell.row >= grid.fixed_rows()) {
+        click_by_keyboard(grid, widget, cell);
+        return;
+    }
     if (place.isEmpty()) {
         throw Unmet(grid.path() + " does not show the cell " + std::to_string(cell.row) + " " +
                     std::to_string(cell.column) + " on the screen.");

@@ -14,13 +14,15 @@ namespace {
 constexpr std::size_t most_cells = 2000;
 
 // A cell, counted as the widget shows it: row 0 is the first below the headings.
-class AccessibleCell : public QAccessibleInterface, public QAccessibleTableCellInterface {
+class AccessibleCell : public QAccessibleInterface,
+                       public QAccessibleTableCellInterface,
+                       public QAccessibleActionInterface {
   public:
     AccessibleCell(GridWidget* grid, GridCell cell) : grid_(grid), cell_(cell) {}
 
     bool isValid() const override {
         return !grid_.isNull() && cell_.row < grid_->shown_rows() &&
-               cell_.column < grid_->grid().columns();
+               cell_.column < grid_->shown_columns();
     }
     QObject* object() const override { return nullptr; }
     QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
@@ -62,10 +64,21 @@ class AccessibleCell : public QAccessibleInterface, public QAccessibleTableCellI
         return grid_.isNull() ? nullptr : QAccessible::queryAccessibleInterface(grid_);
     }
 
+    // A screen reader presses a cell as the mouse clicks it.
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& action) override {
+        if (action == pressAction() && isValid() && grid_->on_click) grid_->on_click(in_grid());
+    }
+    QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
+
     void* interface_cast(QAccessible::InterfaceType type) override {
-        return type == QAccessible::TableCellInterface
-                   ? static_cast<QAccessibleTableCellInterface*>(this)
-                   : nullptr;
+        switch (type) {
+            case QAccessible::TableCellInterface:
+                return static_cast<QAccessibleTableCellInterface*>(this);
+            case QAccessible::ActionInterface:
+                return static_cast<QAccessibleActionInterface*>(this);
+            default: return nullptr;
+        }
     }
 
   private:
@@ -102,11 +115,16 @@ class AccessibleGrid : public QAccessibleWidget, public QAccessibleTableInterfac
         QAccessibleInterface* const current = current_cell();
         return current == nullptr ? QList<QAccessibleInterface*>() : QList{current};
     }
-    QString columnDescription(int column) const override { return grid_.heading_text(column); }
-    QString rowDescription(int row) const override { return QString::number(row + 1); }
+    // The numbers come from another program.
+    QString columnDescription(int column) const override {
+        return column < 0 || column >= columnCount() ? QString() : grid_.heading_text(column);
+    }
+    QString rowDescription(int row) const override {
+        return row < 0 || row >= rowCount() ? QString() : QString::number(row + 1);
+    }
     int selectedColumnCount() const override { return 0; }
     int selectedRowCount() const override { return 0; }
-    int columnCount() const override { return grid_.grid().columns(); }
+    int columnCount() const override { return grid_.shown_columns(); }
     int rowCount() const override { return grid_.shown_rows(); }
     QList<int> selectedColumns() const override { return {}; }
     QList<int> selectedRows() const override { return {}; }

@@ -122,9 +122,11 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
                 break;
             default: break;
         }
-        target.row = std::clamp(target.row, fixed_rows_, rows_ - 1);
-        target.column = std::max(target.column, grid_.fixed_columns());
-        if (!(target == current_) && on_move) {
+        const bool leads_on = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown ||
+                              event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+        if (leads_on && on_move) {
+            target.row = std::clamp(target.row, fixed_rows_, rows_ - 1);
+            target.column = std::max(target.column, grid_.fixed_columns());
             on_move(target);
             bring_into_view(grid_.current());
             return;
@@ -133,19 +135,51 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (const auto key = key_of(*event); key && on_key) {
         on_key(*key);
         bring_into_view(grid_.current());
-        return;
+        // Where nothing is typed, Escape is for a question that the window may ask.
+        if (is_typed_into || key->name != Key::Name::escape) return;
     }
     event->ignore();
+}
+
+// A border that is clicked twice goes back to where the widget would have it.
+void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    const auto column = border_at(event->pos());
+    if (!column) {
+        mousePressEvent(event);
+        return;
+    }
+    widths_by_hand_.erase(*column);
+    measure();
+    read_page();
+    viewport()->update();
+}
+
+// With Shift the wheel scrolls sideways.
+void GridWidget::wheelEvent(QWheelEvent* event) {
+    if ((event->modifiers() & Qt::ShiftModifier) == 0) {
+        QAbstractScrollArea::wheelEvent(event);
+        return;
+    }
+    const int notches = event->angleDelta().y() / QWheelEvent::DefaultDeltasPerStep;
+    QScrollBar* const bar = horizontalScrollBar();
+    bar->setValue(bar->value() - notches * 3 * bar->singleStep());
+    event->accept();
 }
 
 bool GridWidget::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
+    const int column = column_at(help->pos().x());
     const auto cell = cell_at(help->pos());
-    const QString text = cell ? text_on_screen(*cell).value_or(QString()) : QString();
+    QString text;
+    if (help->pos().y() < heading_height()) {
+        if (column >= 0) text = heading_of(column);
+    } else if (cell) {
+        text = text_on_screen(*cell).value_or(QString());
+    }
     const bool is_cut =
-        cell && fontMetrics().horizontalAdvance(text) > column_width(cell->column) - 16;
-    QToolTip::showText(help->globalPos(), is_cut ? text.toHtmlEscaped() : QString(), viewport());
+        column >= 0 && fontMetrics().horizontalAdvance(text) > column_width(column) - 16;
+    QToolTip::showText(help->globalPos(), is_cut ? tip(text) : QString(), viewport());
     return true;
 }
 

@@ -66,6 +66,10 @@ void GridWidget::measure() {
     fit_scroll_bars();
 }
 
+// Where columns can get a caption, room for a short one is kept from the start, so that no column
+// moves under the mouse when its neighbour gets one.
+int GridWidget::least_width() const { return marks_ ? fontMetrics().averageCharWidth() * 12 : 0; }
+
 // As wide as the grid says, wider where headings and the first rows need it.
 void GridWidget::measure_columns() {
     std::vector<int> widths(static_cast<std::size_t>(columns_), 0);
@@ -78,7 +82,8 @@ void GridWidget::measure_columns() {
         const int twips = grid_.column_width(column);
         if (twips <= 0) continue;
         widths[std::size_t(column)] =
-            std::max(static_cast<int>(std::lround(twips * to_pixels)), need(heading_of(column)));
+            std::max({static_cast<int>(std::lround(twips * to_pixels)), least_width(),
+                      need(fixed_rows_ > 0 ? heading_of(column) : QString::number(column + 1))});
     }
     RowCells cells;
     const int last = std::min(rows_, rows_to_measure);
@@ -159,7 +164,7 @@ QString GridWidget::heading_of(int column) const {
     if (fixed_rows_ > 0) return shown(grid_.cell(0, column));
     const QString& caption = column_marks_[std::size_t(column)].caption;
     const QString number = QString::number(column + 1);
-    return caption.isEmpty() ? number : number + QStringLiteral("   ") + caption;
+    return caption.isEmpty() ? number : number + QStringLiteral("  ") + caption;
 }
 
 bool GridWidget::is_marked(GridCell cell) const {
@@ -198,6 +203,11 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
+QColor GridWidget::behind_column(const Colours& colours, int column) const {
+    const auto& number = column_marks_[std::size_t(column)].tint;
+    return number ? tint(colours, *number) : colours.card;
+}
+
 void GridWidget::paint_row(QPainter& painter, const Colours& colours, const ShownRow& row) const {
     if (row.height <= 0) return;
     for (std::size_t at = 0; at < row.texts.size(); ++at) {
@@ -210,9 +220,9 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
             painter.fillRect(place, colour);
             text = colour.lightness() > 127 ? Qt::black : Qt::white;
         } else if (is_marked(cell)) {
-            painter.fillRect(place, colours.soft);
-        } else if (const auto& own_tint = column_marks_[std::size_t(column)].tint) {
-            painter.fillRect(place, tint(colours, *own_tint));
+            painter.fillRect(place, mixed(behind_column(colours, column), colours.accent, 0.2));
+        } else if (column_marks_[std::size_t(column)].tint) {
+            painter.fillRect(place, behind_column(colours, column));
         }
         painter.setPen(colours.line);
         painter.drawLine(place.bottomLeft(), place.bottomRight());
@@ -370,7 +380,10 @@ class GridView : public WidgetView<Grid, GridWidget> {
             acts.act(*this, [this, key] { field_.press_key(key); });
         };
         widget->on_move = [this, &acts](GridCell cell) {
-            acts.act(*this, [this, cell] { field_.make_current(cell); });
+            acts.act(*this, [this, cell] {
+                field_.set_focus();
+                field_.make_current(cell);
+            });
         };
     }
 

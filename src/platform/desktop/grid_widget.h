@@ -61,8 +61,9 @@ class GridWidget : public QAbstractScrollArea {
     QString difference() const;
 
     const Grid& grid() const { return grid_; }
-    int headings() const { return fixed_rows_; }  // rows that stand in the headings
-    int shown_rows() const { return std::max(0, data_rows()); }
+    int headings() const { return fixed_rows_; }                 // rows that stand in the headings
+    int shown_rows() const { return std::max(0, data_rows()); }  // in sight or not
+    int shown_columns() const { return columns_; }
     QString heading_text(int column) const { return heading_of(column); }
     int columns_shown_to() const;  // behind the last column that is in the viewport
     int rows_in_view() const;      // the whole rows that fit
@@ -75,6 +76,8 @@ class GridWidget : public QAbstractScrollArea {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -108,6 +111,8 @@ class GridWidget : public QAbstractScrollArea {
     void fit_scroll_bars();
     void read_page();
     QString heading_of(int column) const;
+    int least_width() const;
+    QColor behind_column(const Colours& colours, int column) const;
     void paint_headings(QPainter& painter, const Colours& colours) const;
     void paint_row(QPainter& painter, const Colours& colours, const ShownRow& row) const;
 

@@ -16,6 +16,7 @@ class Browser : public QTextBrowser {
         setWindowTitle(QStringLiteral("Help"));
         setAccessibleName(QStringLiteral("Help"));
         setOpenLinks(false);
+        document()->setDocumentMargin(20);
         connect(this, &QTextBrowser::anchorClicked, this,
                 [this](const QUrl& link) { scrollToAnchor(link.fragment()); });
         resize(720, 640);

@@ -52,9 +52,10 @@ QHBoxLayout* files_line(Display& display, Draw& draw) {
 
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
-    line->addWidget(file, 1);
-    line->addWidget(configuration, 1);
-    line->addWidget(vox, 1);
+    for (Card* const card : {file, configuration, vox}) {
+        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        line->addWidget(card, 1);
+    }
     return line;
 }
 
@@ -92,9 +93,7 @@ Card* filler_card(Display& display, Draw& draw) {
 // Mark, button, column number and Clear of one category, in a row of a grid.
 void add_category(Display& display, const Category& category, int number, QGridLayout* grid,
                   int grid_row, int grid_column, Draw& draw) {
-    QLabel* const marker = draw.caption(display.*category.marker);
-    marker->setFont(font_larger_by(0, QFont::Bold));
-    mark(*marker, "title");
+    QLabel* const marker = draw.heading(display.*category.marker, 0);
     marker->setFixedWidth(marker->fontMetrics().horizontalAdvance(u'X') + 8);
     marker->setAlignment(Qt::AlignCenter);
     keep_place(marker);
@@ -102,6 +101,10 @@ void add_category(Display& display, const Category& category, int number, QGridL
     QPushButton* const button =
         draw.button(display.*category.button, category_letters[static_cast<std::size_t>(number)]);
     if (category.required) button->setFont(font_larger_by(0, QFont::Bold));
+    mark(*button, "category");
+    display.lblSelectedCategory.observe([&display, &category, button] {
+        set_mark(*button, "active", display.lblSelectedCategory.text() == category.text);
+    });
     button->setMinimumWidth(button->fontMetrics().averageCharWidth() * 19);
 
     const QString name = shown((display.*category.button).text()).trimmed();
@@ -255,6 +258,7 @@ Card* table_card(Display& display, Draw& draw) {
         (display.*category.column).observe([&display] { display.MSFlexKeldarIN.refreshed(); });
     }
     card->content()->addWidget(table, 1);
+    card->lead_to(table, 'I');
     return card;
 }
 
@@ -262,6 +266,7 @@ Card* table_card(Display& display, Draw& draw) {
 QHBoxLayout* of_readable_width(QWidget* card) {
     constexpr int widest_in_letters = 165;
     card->setMaximumWidth(card->fontMetrics().averageCharWidth() * widest_in_letters);
+    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto* const line = new QHBoxLayout;
     line->addWidget(card, 1);
     line->addStretch();

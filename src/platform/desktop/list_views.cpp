@@ -47,6 +47,11 @@ class RowPainter : public QStyledItemDelegate {
         }
         const bool enabled = (option.state & QStyle::State_Enabled) != 0;
         painter->setPen(selected ? colours.accent_text : enabled ? colours.text : colours.edge);
+        if (index.row() == list_.open_row) {
+            QFont bold = painter->font();
+            bold.setWeight(QFont::DemiBold);
+            painter->setFont(bold);
+        }
         const int indent = list_.indent ? list_.indent(index.row()) * indent_step : 0;
         const QRect place = option.rect.adjusted(8 + indent, 0, -8, 0);
         painter->drawText(
@@ -125,17 +130,18 @@ class FolderListView : public ListView {
         : ListView(list, widget, acts), folders_(list) {
         widget->arrows_click = false;
         widget->setSelectionMode(QAbstractItemView::NoSelection);
-        widget->indent = [this](int row) { return std::min(row, depth_); };
+        widget->indent = [this](int row) { return std::min(row, depth_ + 1); };
     }
 
   protected:
     void follow_content() override {
         const bool moved = path_ != folders_.path();
         path_ = folders_.path();
-        depth_ = static_cast<int>(std::count(path_.begin(), path_.end(), '\\'));
-        const bool at_root = path_.ends_with('\\');
+        const auto slashes = std::count(path_.begin(), path_.end(), '\\');
+        depth_ = path_.ends_with('\\') ? 0 : static_cast<int>(slashes);
+        widget()->open_row = depth_;
         ListView::follow_content();
-        if (moved) set_cursor(at_root ? 0 : depth_);
+        if (moved) set_cursor(depth_);
         widget()->viewport()->update();
     }
 
@@ -148,7 +154,7 @@ class FolderListView : public ListView {
   private:
     FolderList& folders_;
     std::string path_;
-    int depth_ = 0;  // of the folders in the folder
+    int depth_ = 0;  // of the open folder below its drive's root, which is its row, too
 };
 
 class PickListView : public WidgetView<EntryList, QComboBox> {
@@ -215,8 +221,11 @@ int EntryModel::rowCount(const QModelIndex& parent) const {
 
 QVariant EntryModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= entries_.size()) return {};
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return entries_[index.row()];
-    return {};
+    switch (role) {
+        case Qt::DisplayRole: return entries_[index.row()];
+        case Qt::ToolTipRole: return tip(entries_[index.row()]);
+        default: return {};
+    }
 }
 
 ListWidget::ListWidget(QWidget* parent) : QListView(parent) {
@@ -245,8 +254,18 @@ void ListWidget::keyPressEvent(QKeyEvent* event) {
     }
     const QModelIndex before = currentIndex();
     QListView::keyPressEvent(event);
-    if (arrows_click && currentIndex() != before) click(currentIndex());
+    const bool moves = event->text().isEmpty() && event->key() != Qt::Key_Shift;
+    const bool picks = currentIndex() != before || (moves && !selectionModel()->hasSelection());
+    if (arrows_click && picks) click(currentIndex());
 }
+
+// A press below the last entry changes nothing.
+void ListWidget::mousePressEvent(QMouseEvent* event) {
+    if (indexAt(event->pos()).isValid()) QListView::mousePressEvent(event);
+}
+
+// Under the second press of a double click may stand another entry than under the first.
+void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void ListWidget::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);

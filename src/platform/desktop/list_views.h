@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QComboBox>
 #include <QListView>
+#include <QWheelEvent>
 #include <memory>
 
 #include "platform/desktop/field_view.h"
@@ -45,10 +46,15 @@ class ListWidget : public QListView {
     // How far a row is moved to the right, in steps.
     std::function<int(int row)> indent;
 
+    // The row that stands for where the list is; -1 for none.
+    int open_row = -1;
+
     QSize sizeHint() const override;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
@@ -56,6 +62,15 @@ class ListWidget : public QListView {
 
     EntryModel model_;
     QString empty_text_;
+};
+
+// A box that the wheel scrolls over: turning it chooses nothing.
+class PickListBox : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
 std::unique_ptr<FieldView> list_view(EntryList& list, ListWidget* widget, Acts& acts);

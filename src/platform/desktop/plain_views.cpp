@@ -32,6 +32,11 @@ Card::Card(QWidget* parent)
     whole->addLayout(content_, 1);
 }
 
+void Card::lead_to(QWidget* widget, char letter) {
+    title_->setBuddy(widget);
+    letter_ = letter;
+}
+
 ValueLabel::ValueLabel(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
@@ -75,7 +80,7 @@ void ValueLabel::resizeEvent(QResizeEvent* /*event*/) { tell_in_tool_tip(); }
 
 void ValueLabel::tell_in_tool_tip() {
     const bool is_cut = fontMetrics().horizontalAdvance(text_) > width();
-    setToolTip(is_cut ? text_.toHtmlEscaped() : QString());
+    setToolTip(is_cut ? tip(text_) : QString());
 }
 
 namespace {
@@ -86,11 +91,19 @@ class PanelView : public WidgetView<Panel, Card> {
 
   protected:
     void follow_content() override {
-        widget()->title()->setText(shown(field_.text()));
+        widget()->title()->setText(names_a_control()
+                                       ? with_mnemonic(field_.text(), widget()->letter())
+                                       : shown(field_.text()));
         widget()->title()->setVisible(!field_.empty());
         widget()->setAccessibleName(shown(field_.text()));
     }
-    QString says() const override { return widget()->title()->text(); }
+    QString says() const override {
+        const QString text = widget()->title()->text();
+        return names_a_control() ? without_mnemonic(text) : text;
+    }
+
+  private:
+    bool names_a_control() const { return widget()->title()->buddy() != nullptr; }
 };
 
 class LabelView : public WidgetView<Label, QLabel> {
@@ -135,7 +148,7 @@ class CaptionedView : public WidgetView<FieldType, Widget> {
   protected:
     void follow_content() override {
         const QString caption = with_mnemonic(this->field_.text(), mnemonic_);
-        if (this->widget()->text() != caption) this->widget()->setText(caption);
+        if (this->widget()->text() != caption) this->widget()->setText(caption);  // names it, too
     }
     QString says() const override { return without_mnemonic(this->widget()->text()); }
 
@@ -226,8 +239,12 @@ class TextBoxView : public WidgetView<TextBox, QLineEdit>, public QObject {
         if (box.most() > 0) widget->setMaxLength(static_cast<int>(box.most()));
         widget->setValidator(new CodePageValidator(widget));
         widget->installEventFilter(this);
-        QObject::connect(widget, &QLineEdit::textEdited, this, [this](const QString& text) {
-            acts_.act(*this, [this, &text] { field_.set_text(typed(text)); });
+        // Every change that is not the field's own: by keys, by the clipboard, by a screen reader.
+        QObject::connect(widget, &QLineEdit::textChanged, this, [this](const QString& text) {
+            acts_.act(*this, [this, &text] {
+                field_.set_focus();
+                field_.set_text(typed(text));
+            });
         });
         QObject::connect(widget, &QLineEdit::returnPressed, this, [this] {
             Button* const button = field_.enter_presses;
@@ -255,9 +272,8 @@ class TextBoxView : public WidgetView<TextBox, QLineEdit>, public QObject {
         if (widget()->text() == text) return;
         const QSignalBlocker quiet(widget());
         const int position = widget()->cursorPosition();
-        const bool at_end = position == widget()->text().size();
         widget()->setText(text);
-        if (!at_end) widget()->setCursorPosition(std::min<int>(position, int(text.size())));
+        widget()->setCursorPosition(std::min<int>(position, int(text.size())));
     }
     QString says() const override { return widget()->text(); }
 

@@ -27,6 +27,10 @@ class Card : public QFrame {
     // What lies beside the title, from left to right.
     QHBoxLayout* head() { return head_; }
 
+    // Has the title lead to a widget on the card by an underlined letter.
+    void lead_to(QWidget* widget, char letter);
+    char letter() const { return letter_; }
+
     QLabel* title() { return title_; }
     const QLabel* title() const { return title_; }
 
@@ -34,6 +38,7 @@ class Card : public QFrame {
     QHBoxLayout* head_;
     QVBoxLayout* content_;
     QLabel* title_;
+    char letter_ = '\0';
 };
 
 // A text of one line. One that is too long for its place is cut with an ellipsis and told whole in

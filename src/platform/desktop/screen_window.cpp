@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -17,7 +18,15 @@
 namespace brooklander::desktop {
 namespace {
 
-constexpr QSize first_size(1024, 728);  // a display of 1024 x 768 with a window's frame taken off
+constexpr int frame_height = 40;  // what a window's frame takes at most
+constexpr QSize first_size(1024, 768 - frame_height);
+
+// A platform without a display has one of any size.
+QSize size_on_this_display() {
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) return first_size;
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    return first_size.boundedTo(room - QSize(0, frame_height));
+}
 
 // The surface that the cards lie on.
 class Water : public QWidget {
@@ -57,20 +66,75 @@ ScreenWindow::ScreenWindow(const Screen& screen)
     area_->setWidget(surface_);
     setCentralWidget(area_);
     menuBar()->setNativeMenuBar(false);
-    resize(first_size);
+    resize(size_on_this_display());
 }
 
 void ScreenWindow::asks(QWidget* card, QWidget* first, QWidget* no) {
     questions_.push_back({card, first, no});
 }
 
-void ScreenWindow::settled() {
-    for (Question& question : questions_) {
-        const bool is_up = question.card->isVisible();
-        if (is_up && !question.was_up) question.first->setFocus(Qt::OtherFocusReason);
-        question.was_up = is_up;
+void ScreenWindow::settled(const QWidget* had_keyboard, bool may_give_keyboard) {
+    const bool lost =
+        had_keyboard == nullptr || !had_keyboard->isVisible() || !had_keyboard->isEnabled();
+    const bool asked = ask(may_give_keyboard);
+    if (lost && may_give_keyboard && !asked) give_keyboard_to_new_card();
+    for (CardPlace& place : cards_) place.was_up = place.card->isVisible();
+    for (Mover& mover : movers_) {
+        const bool is_ready = mover.button->isVisible() && mover.button->isEnabled();
+        if (is_ready && !mover.was_ready) next_by_tab_ = mover.button;
+        if (!is_ready && next_by_tab_ == mover.button) next_by_tab_ = nullptr;
+        mover.was_ready = is_ready;
     }
 }
+
+// Gives the keyboard to a question that has come up; says whether one has got it.
+bool ScreenWindow::ask(bool may_give_keyboard) {
+    bool asked = false;
+    for (Question& question : questions_) {
+        const bool is_up = question.card->isVisible();
+        if (is_up && !question.was_up && may_give_keyboard) {
+            question.first->setFocus(Qt::OtherFocusReason);
+            asked = true;
+        }
+        question.was_up = is_up;
+    }
+    return asked;
+}
+
+void ScreenWindow::give_keyboard_to_new_card() {
+    for (const CardPlace& place : cards_) {
+        if (place.was_up || !place.card->isVisible()) continue;
+        for (QWidget* at = place.card->nextInFocusChain(); at != place.card;
+             at = at->nextInFocusChain()) {
+            const bool takes_it = (at->focusPolicy() & Qt::TabFocus) != 0 && at->isEnabled();
+            if (!takes_it || !at->isVisible() || !place.card->isAncestorOf(at)) continue;
+            at->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+bool ScreenWindow::focusNextPrevChild(bool next) {
+    QWidget* const target = std::exchange(next_by_tab_, nullptr);
+    if (!next || target == nullptr || target == focusWidget()) {
+        return QMainWindow::focusNextPrevChild(next);
+    }
+    target->setFocus(Qt::TabFocusReason);
+    bring_into_view(target);
+    return true;
+}
+
+// The place is told to the window manager, which would choose one of its own otherwise.
+void ScreenWindow::stand_in_for(const ScreenWindow& other) {
+    setAttribute(Qt::WA_Moved);
+    resize(other.size());
+    move(other.pos());
+    setWindowState(other.windowState() & ~Qt::WindowMinimized);
+}
+
+void ScreenWindow::holds(QWidget* card) { cards_.push_back({card}); }
+
+void ScreenWindow::moves_on(QWidget* button) { movers_.push_back({button}); }
 
 void ScreenWindow::bring_into_view(QWidget* widget) {
     if (surface_->isAncestorOf(widget)) area_->ensureWidgetVisible(widget, 8, 8);
@@ -101,6 +165,7 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
 // The keyboard begins at the first control, so that nobody has to look for it.
 void ScreenWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
+    for (Question& question : questions_) question.was_up = false;  // it is asked anew
     if (focusWidget() == nullptr) focusNextChild();
 }
 

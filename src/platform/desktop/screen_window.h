@@ -25,9 +25,19 @@ class ScreenWindow : public QMainWindow {
     // `no`, from everywhere but out of a text box on another card.
     void asks(QWidget* card, QWidget* first, QWidget* no);
 
-    // To be called when all widgets follow their fields: gives the keyboard to a question that has
-    // come up.
-    void settled();
+    // A card: when the control that had the keyboard goes, the first one on a card that has come up
+    // gets it.
+    void holds(QWidget* card);
+
+    // The button that moves a step on: once it can be pressed, Tab leads to it next.
+    void moves_on(QWidget* button);
+
+    // To be called when all widgets follow their fields. `had_keyboard` is the control that had the
+    // keyboard before; without `may_give_keyboard`, a step has given it already.
+    void settled(const QWidget* had_keyboard, bool may_give_keyboard);
+
+    // Takes another window's place and size, before it is shown.
+    void stand_in_for(const ScreenWindow& other);
 
     // Scrolls until the widget can be seen.
     void bring_into_view(QWidget* widget);
@@ -39,6 +49,7 @@ class ScreenWindow : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     struct Question {
@@ -48,11 +59,26 @@ class ScreenWindow : public QMainWindow {
         bool was_up = false;
     };
 
+    struct CardPlace {
+        QWidget* card;
+        bool was_up = false;
+    };
+    struct Mover {
+        QWidget* button;
+        bool was_ready = false;
+    };
+
     const Screen& screen_;
     QScrollArea* area_;
     QWidget* surface_;
     QVBoxLayout* page_layout_;
+    void give_keyboard_to_new_card();
+    bool ask(bool may_give_keyboard);
+
+    std::vector<CardPlace> cards_;
     std::vector<Question> questions_;
+    std::vector<Mover> movers_;
+    QWidget* next_by_tab_ = nullptr;
 };
 
 }  // namespace brooklander::desktop

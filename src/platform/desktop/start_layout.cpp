@@ -119,6 +119,26 @@ Card* files_card(FrmStart& start, Draw& draw) {
     return card;
 }
 
+// Gives an item of a layout the room that is left, as long as its widget is there.
+class RoomWhileShown : public QObject {
+  public:
+    RoomWhileShown(QWidget* widget, QVBoxLayout* layout, int item)
+        : QObject(widget), layout_(layout), item_(item) {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        constexpr int most_of_it = 100;
+        if (event->type() == QEvent::ShowToParent) layout_->setStretch(item_, most_of_it);
+        if (event->type() == QEvent::HideToParent) layout_->setStretch(item_, 0);
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    QVBoxLayout* layout_;
+    int item_;
+};
+
 }  // namespace
 
 void lay_out_start(FrmStart& start, Draw& draw) {
@@ -135,7 +155,10 @@ void lay_out_start(FrmStart& start, Draw& draw) {
     page->addLayout(in_the_middle(refusal_card(start, draw)));
     page->addLayout(in_the_middle(exit_card(start, draw)));
     page->addLayout(in_the_middle(about_card(start, draw)));
-    page->addLayout(in_the_middle(files_card(start, draw)));
+    Card* const files = files_card(start, draw);
+    files->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    page->addLayout(in_the_middle(files));
+    new RoomWhileShown(files, page, page->count() - 1);  // the card owns it
     page->addStretch();
 }
 

@@ -19,8 +19,14 @@ std::string typed(const QString& text) {
 }
 
 bool can_be_typed(const QString& text) {
-    return from_utf8(text.toStdString()).has_value() &&
-           std::all_of(text.begin(), text.end(), [](QChar letter) { return letter.isPrint(); });
+    const auto bytes = from_utf8(text.toStdString());
+    return bytes && std::all_of(bytes->begin(), bytes->end(),
+                                [](char byte) { return brooklander::can_be_typed(byte); });
+}
+
+QString tip(const QString& text) {
+    if (text.isEmpty()) return {};
+    return QStringLiteral("<span style='white-space:pre-wrap'>%1</span>").arg(text.toHtmlEscaped());
 }
 
 QString with_mnemonic(std::string_view caption, char letter) {

@@ -10,11 +10,13 @@ namespace brooklander::desktop {
 // A field's text, in the code page, as a widget takes it.
 QString shown(std::string_view text);
 
-// What was typed, as fields hold it. A character outside the code page becomes `?`; boxes take
-// none.
+// What was typed, as fields hold it. A character outside the code page becomes `?`.
 std::string typed(const QString& text);
 
-// Whether every character has a place in the code page, and is no control character.
+// A tool tip that says the text as it stands, whatever in it looks like markup.
+QString tip(const QString& text);
+
+// Whether every character has a place in the code page, and is no control character there.
 bool can_be_typed(const QString& text);
 
 // A caption as buttons and menus take it, with the underlined letter before its first place in the

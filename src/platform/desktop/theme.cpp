@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QWidget>
 #include <array>
@@ -50,6 +51,17 @@ QLineEdit { lineedit-password-character: 42; }
 QListView { background: %card; color: %text; border: 1px solid %line; border-radius: 4px;
               padding: 2px; outline: none; }
 QListView:focus { border: 2px solid %accent; padding: 1px; }
+QScrollBar:vertical { background: %page; width: 14px; }
+QScrollBar:horizontal { background: %page; height: 14px; }
+QScrollBar::handle { background: %edge; border: 3px solid %page; border-radius: 7px; }
+QScrollBar::handle:vertical { min-height: 36px; }
+QScrollBar::handle:horizontal { min-width: 36px; }
+QScrollBar::handle:hover { background: %quiet; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QPushButton[category="true"] { text-align: left; }
+QRadioButton:focus, QCheckBox:focus { color: %title; text-decoration: underline; }
+QComboBox:focus { border: 2px solid %accent; border-radius: 4px; }
 QToolTip { background: %card; color: %text; border: 1px solid %edge; padding: 4px; }
 )");
     // Longer names first, since a shorter one may begin one.
@@ -120,5 +132,12 @@ void dress(QApplication& application) {
 }
 
 void mark(QWidget& widget, const char* property) { widget.setProperty(property, true); }
+
+void set_mark(QWidget& widget, const char* property, bool on) {
+    if (widget.property(property).toBool() == on) return;
+    widget.setProperty(property, on);
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+}
 
 }  // namespace brooklander::desktop

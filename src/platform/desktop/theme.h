@@ -24,4 +24,7 @@ void dress(QApplication& application);
 // A property that the style sheet knows: `filled` buttons, `quiet` texts.
 void mark(QWidget& widget, const char* property);
 
+// The same for a widget that is on the screen already, on or off.
+void set_mark(QWidget& widget, const char* property, bool on);
+
 }  // namespace brooklander::desktop

@@ -1,6 +1,7 @@
 #include "platform/desktop/warnings.h"
 
 #include <array>
+#include <iostream>
 #include <utility>
 
 namespace brooklander::desktop {
@@ -19,8 +20,10 @@ constexpr std::array<const char*, 4> harmless{
     "XDG_RUNTIME_DIR",
 };
 
+// A fatal message ends the process, so that it is told at once.
 void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
     if (type == QtDebugMsg || type == QtInfoMsg) return;
+    if (type == QtFatalMsg) std::cerr << message.toStdString() << std::endl;
     for (const char* const known : harmless) {
         if (message.contains(QLatin1String(known))) return;
     }

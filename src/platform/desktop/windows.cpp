@@ -1,6 +1,7 @@
 #include "platform/desktop/windows.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <algorithm>
 #include <new>
 #include <utility>
@@ -50,32 +51,42 @@ void Windows::screen_changed(const Screen& screen) {
     if (screen.pointer() == Pointer::busy && !busy_shown_) paint_while_busy();
 }
 
+// An act on a field that cannot be worked comes from a widget that has not noticed yet; one while a
+// step runs, from outside, when the step lets the windows be painted.
 void Windows::act(FieldView& origin, const std::function<void()>& step) {
     if (over_) return;
     let_follow(origin);
-    act(step);
+    if (acting_) return;
+    origin_ = &origin.field();
+    act(origin.field().usable() ? step : [] {});
+    origin_ = nullptr;
 }
 
 void Windows::act(const std::function<void()>& step) {
-    if (over_) return;
-    const bool outermost = !std::exchange(acting_, true);
+    if (over_ || acting_) return;
+    acting_ = true;
     try {
         step();
+        const bool was_busy = busy_shown_;
+        acting_ = false;
+        if (screens_.ended) {
+            end();
+        } else {
+            settle();
+            if (was_busy) drop_input();
+        }
     } catch (const FatalFailure& failure) {
         fail(failure.what());
     } catch (const std::bad_alloc&) {
         fail("The memory is exhausted.");
     }
-    if (outermost) acting_ = false;
-    if (over_ || !outermost) return;
-    if (screens_.ended) {
-        over_ = true;
-        follow_pointer();
-        for (const auto& [screen, window] : windows_) window->hide();
-        if (on_end) on_end();
-        return;
-    }
-    settle();
+}
+
+void Windows::end() {
+    over_ = true;
+    follow_pointer();
+    for (const auto& [screen, window] : windows_) window->hide();
+    if (on_end) on_end();
 }
 
 void Windows::fail(const std::string& sentence) {
@@ -90,15 +101,17 @@ void Windows::settle() {
     for (Screen* const screen : screens_.desk.screens()) {
         if (screen->visible() && !windows_.contains(screen)) open_window(*screen);
     }
-    // A field may change again while another one follows: a list that is shown reads its folder.
-    while (!waiting_.empty()) {
-        for (FieldView* const view : std::exchange(waiting_, {})) {
-            view->waits = false;
-            view->follow();
-        }
+    std::unordered_map<const Screen*, QPointer<QWidget>> had_keyboard;
+    for (const auto& [screen, window] : windows_) had_keyboard[screen] = window->focusWidget();
+    for (FieldView* const view : std::exchange(waiting_, {})) {
+        view->waits = false;
+        view->follow();
     }
     show_windows();
-    give_focus();
+    const bool by_a_step = give_focus();
+    for (const auto& [screen, window] : windows_) {
+        if (screen->visible()) window->settled(had_keyboard[screen], !by_a_step);
+    }
     follow_pointer();
     settling_ = false;
 }
@@ -118,7 +131,7 @@ void Windows::show_windows() {
     for (const auto& [screen, window] : windows_) {
         window->setWindowTitle(shown(screen->text()));
         if (!screen->visible() || window->isVisible()) continue;
-        if (last != nullptr && last != window.get()) window->restoreGeometry(last->saveGeometry());
+        if (last != nullptr && last != window.get()) window->stand_in_for(*last);
         if (screen != foremost) window->show();
     }
     if (foremost != nullptr && (foremost != foremost_ || !window_of(*foremost)->isVisible())) {
@@ -130,11 +143,12 @@ void Windows::show_windows() {
     foremost_ = foremost;
     for (const auto& [screen, window] : windows_) {
         if (!screen->visible() && window->isVisible()) window->hide();
-        if (screen->visible()) window->settled();
     }
 }
 
-void Windows::give_focus() {
+// Whether a step has given the focus, rather than the click that began it.
+bool Windows::give_focus() {
+    bool by_a_step = false;
     for (const auto& [screen, window] : windows_) {
         const auto& fields = screen->fields();
         const auto found = std::find_if(fields.begin(), fields.end(),
@@ -142,10 +156,11 @@ void Windows::give_focus() {
         const Field* const focus = found == fields.end() ? nullptr : *found;
         if (std::exchange(focus_of_[screen], focus) == focus || focus == nullptr) continue;
         const FieldView* const view = view_of(*focus);
-        if (view != nullptr && view->widget() != nullptr) {
-            view->widget()->setFocus(Qt::OtherFocusReason);
-        }
+        if (view == nullptr || view->widget() == nullptr) continue;
+        view->widget()->setFocus(Qt::OtherFocusReason);
+        if (focus != origin_) by_a_step = true;
     }
+    return by_a_step;
 }
 
 bool Windows::any_busy() const {
@@ -172,6 +187,34 @@ void Windows::follow_pointer() {
 void Windows::paint_while_busy() {
     settle();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+namespace {
+
+// Lets nothing through that a user does.
+class InputFilter : public QObject {
+  public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::KeyPress:
+            case QEvent::KeyRelease:
+            case QEvent::ShortcutOverride:
+            case QEvent::Wheel: return true;
+            default: return false;
+        }
+    }
+};
+
+}  // namespace
+
+// What a user has done while a step blocked was meant for what stood there before it.
+void Windows::drop_input() {
+    InputFilter filter;
+    qApp->installEventFilter(&filter);
+    QApplication::processEvents();
 }
 
 void Windows::close_by_frame(Screen& screen) {
@@ -208,7 +251,8 @@ QString Windows::difference_of(const FieldView& view) const {
     const QWidget* const widget = view.widget();
     if (widget == nullptr || !view.field().seen()) return {};
     if (!widget->isVisible()) return QStringLiteral("cannot be seen on the screen");
-    if (widget->width() <= 0 || widget->height() <= 0) {
+    const bool says_something = view.field().kind() != FieldKind::label || !view.field().empty();
+    if (says_something && (widget->width() <= 0 || widget->height() <= 0)) {
         return QStringLiteral("has no room on the screen");
     }
     return {};

@@ -35,7 +35,7 @@ class Windows : public Acts {
 
     void act(FieldView& origin, const std::function<void()>& step) override;
 
-    // Runs a step that no widget stands for.
+    // Runs a step that no widget stands for. While a step runs, nothing else does.
     void act(const std::function<void()>& step);
 
     // Makes all windows follow now.
@@ -63,10 +63,12 @@ class Windows : public Acts {
     void open_window(Screen& screen);
     void close_by_frame(Screen& screen);
     void show_windows();
-    void give_focus();
+    bool give_focus();
     void follow_pointer();
     void paint_while_busy();
+    static void drop_input();
     void fail(const std::string& sentence);
+    void end();
     bool any_busy() const;
     QString difference_of(const FieldView& view) const;
     QString difference_of(const Screen& screen) const;
@@ -79,6 +81,7 @@ class Windows : public Acts {
     std::vector<FieldView*> waiting_;  // changed since they last followed
     std::unordered_map<const Screen*, const Field*> focus_of_;
     const Screen* foremost_ = nullptr;
+    const Field* origin_ = nullptr;  // what the user has worked, while its step runs
     bool busy_shown_ = false;
     bool acting_ = false;
     bool settling_ = false;
