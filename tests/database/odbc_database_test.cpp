@@ -213,11 +213,10 @@ TEST_F(SqliteSource, NothingIsEverWritten) {
               "open for queries alone.");
     EXPECT_THAT(refusal_of("SELECT 1; INSERT INTO words VALUES (9, 'x')"),
                 HasSubstr("is not sent"));
-    EXPECT_THAT(refusal_of("WITH x(n) AS (SELECT 9) INSERT INTO words SELECT n, 'x' FROM x"),
+    EXPECT_THAT(refusal_of("WITH x(n) AS (SELECT 9) DELETE FROM words"),
                 HasSubstr("attempt to write a readonly database"));
-    EXPECT_THAT(
-        refusal_of("WITH x(n) AS (SELECT 9) INSERT INTO KELDAR1.words SELECT n, 'x' FROM x"),
-        HasSubstr("attempt to write a readonly database"));
+    EXPECT_THAT(refusal_of("WITH x(n) AS (SELECT 9) DELETE FROM KELDAR1.words"),
+                HasSubstr("attempt to write a readonly database"));
     EXPECT_THAT(rows("SELECT count(*) FROM words"), ElementsAre(Row{"5"}));
 }
 

@@ -160,8 +160,7 @@ TEST_F(PostgresSource, AServerThatNeverAnswersIsGivenUp) {
 
 TEST_F(PostgresSource, NothingIsEverWritten) {
     EXPECT_THAT(refusal_of("INSERT INTO tsruom VALUES ('x', 'y')"), HasSubstr("is not sent"));
-    EXPECT_THAT(refusal_of("WITH x AS (INSERT INTO tsruom VALUES ('x', 'y') RETURNING 1) "
-                           "SELECT * FROM x"),
+    EXPECT_THAT(refusal_of("WITH x AS (DELETE FROM tsruom RETURNING 1) SELECT * FROM x"),
                 HasSubstr("in a read-only transaction"));
     for (const char* const hidden : {"E'\\''", "$$'$$"}) {
         EXPECT_THAT(refusal_of("SELECT " + std::string(hidden) +
