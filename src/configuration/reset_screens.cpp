@@ -37,4 +37,22 @@ void reset(FrmPreferencesSampleOption& options) {
     untick({&options.chkFeet, &options.chkMeters, &options.chkChar});
 }
 
+void clear_options(FrmPreferences& preferences) {
+    preferences.optBrookLanderEdit.set_on(false);
+    preferences.optBrooklanderNew.set_on(false);
+    preferences.optUseConfig.set_on(false);
+    preferences.optVox.set_on(false);
+}
+
+void hide_files(FrmPreferences& preferences) {
+    preferences.frameFileConverted.hide();
+    preferences.frameDescription.hide();
+    preferences.lblDefaults.hide();
+    preferences.frameFiles.hide();
+    preferences.frameNewFile.hide();
+    preferences.frameView.hide();
+    preferences.frameUseFile.hide();
+    preferences.frameFileOptions.hide();
+}
+
 }  // namespace brooklander

@@ -1,4 +1,4 @@
-// Emptying the screens on which a configuration is put together.
+// Taking the screens of the configurations back to where work on one begins.
 #pragma once
 
 #include "screens.h"
@@ -26,5 +26,12 @@ void reset(FrmPreferencesSamples& samples);
 // The depth unit, both projects, the person, the sample transport, and the three boxes: feet,
 // meters, characteristics.
 void reset(FrmPreferencesSampleOption& options);
+
+// None of the manager's four options is chosen.
+void clear_options(FrmPreferences& preferences);
+
+// The manager shows no file: neither the one that is converted, nor a list to choose from, nor a
+// name to give, nor what one holds with what can be done to it, nor a word about it.
+void hide_files(FrmPreferences& preferences);
 
 }  // namespace brooklander

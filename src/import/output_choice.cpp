@@ -1,5 +1,6 @@
 #include "import/output_choice.h"
 
+#include "configuration/reset_screens.h"
 #include "import/column_assignment.h"
 #include "shared/workspace.h"
 
@@ -8,13 +9,6 @@ namespace {
 
 void enable_clear_buttons(FrmImportFileDisplay& display, bool enabled) {
     for (const Category& category : categories) (display.*category.clear).set_enabled(enabled);
-}
-
-void clear_options(FrmPreferences& preferences) {
-    preferences.optBrookLanderEdit.set_on(false);
-    preferences.optBrooklanderNew.set_on(false);
-    preferences.optVox.set_on(false);
-    preferences.optUseConfig.set_on(false);
 }
 
 void forget_existing_file(FrmImportFileDisplay& display) {
@@ -37,17 +31,10 @@ void cmdYes_Click(Screens& screens) {
     clear_options(preferences);
     preferences.optVox.enable();
     preferences.optUseConfig.enable();
-    preferences.frameFileConverted.hide();
-    preferences.frameFiles.hide();
+    hide_files(preferences);
     preferences.frameConfirm.hide();
     preferences.frameConfirmDelete.hide();
-    preferences.frameDescription.hide();
     preferences.lblDescription.hide();
-    preferences.lblDefaults.hide();
-    preferences.frameNewFile.hide();
-    preferences.frameView.hide();
-    preferences.frameFileOptions.hide();
-    preferences.frameUseFile.hide();
     preferences.set_text("Select Configuration File");
     preferences.set_pointer(Pointer::normal);
     preferences.filePreferences.deselect();

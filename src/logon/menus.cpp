@@ -18,18 +18,8 @@ void reset_configuration_screens(Screens& screens) {
 // The manager as it first comes up: the options, none of them chosen, and nothing of a file. The
 // description is shown in a panel that is hidden here, ready for the step that shows the panel.
 void return_to_options(FrmPreferences& preferences) {
-    preferences.optBrookLanderEdit.set_on(false);
-    preferences.optBrooklanderNew.set_on(false);
-    preferences.optUseConfig.set_on(false);
-    preferences.optVox.set_on(false);
-    preferences.frameFileConverted.hide();
-    preferences.frameDescription.hide();
-    preferences.lblDefaults.hide();
-    preferences.frameFiles.hide();
-    preferences.frameNewFile.hide();
-    preferences.frameView.hide();
-    preferences.frameUseFile.hide();
-    preferences.frameFileOptions.hide();
+    clear_options(preferences);
+    hide_files(preferences);
     preferences.frameOptions.show();
     preferences.lblDescription.show();
     preferences.mnuExit.enable();

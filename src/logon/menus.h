@@ -7,8 +7,8 @@
 namespace brooklander {
 
 // Opens the configuration manager for work on configuration files: nothing chosen there, nothing
-// left in the labels and boxes of the screens behind it, and only the two options that make or change a
-// file to choose from.
+// left in the labels and boxes of the screens behind it, and only the two options that make or
+// change a file to choose from.
 void mnuPreferences_Click(Screens& screens);
 
 // Opens the set-up of automatic data loggers with the database's organizations. The entry is hidden

@@ -5,6 +5,7 @@
 #include "scenario/field_names.h"
 #include "scenario/scenario_error.h"
 #include "scenario/words.h"
+#include "shared/fields.h"
 
 namespace brooklander::scenario {
 
@@ -25,6 +26,12 @@ std::string Arguments::field(std::size_t index, std::initializer_list<FieldKind>
                         ", of which that cannot be said or done.");
     }
     return path;
+}
+
+std::string told_text(const Field& field) {
+    const bool masked =
+        field.kind() == FieldKind::text_box && static_cast<const TextBox&>(field).masked();
+    return masked ? std::string(field.text().size(), '*') : field.text();
 }
 
 }  // namespace brooklander::scenario

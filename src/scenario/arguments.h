@@ -46,6 +46,9 @@ class Arguments {
     std::string usage_;
 };
 
+// What a field says, in the code page, as it may be told: of a masked box, `*` for each character.
+std::string told_text(const Field& field);
+
 // The makers of the commands' steps, by subject; all throw WrongLine.
 Step user_step(const std::string& verb, const Arguments& arguments);
 Step refused_step(const Arguments& arguments);

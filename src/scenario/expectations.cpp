@@ -49,11 +49,7 @@ constexpr std::initializer_list<FieldKind> any_or_screen{
     screen,    panel,      label,       text_box,  button,     tick_box, option,     list,
     pick_list, drive_list, folder_list, file_list, menu_entry, grid,     data_source};
 
-// A masked text is not told, not even when it is not the expected one.
-std::string shown_text(const Field& field) {
-    const bool masked = field.kind() == text_box && static_cast<const TextBox&>(field).masked();
-    return in_quotes(masked ? std::string(field.text().size(), '*') : field.text());
-}
+std::string shown_text(const Field& field) { return in_quotes(told_text(field)); }
 
 const Grid& as_grid(const Field& field) { return static_cast<const Grid&>(field); }
 

@@ -12,8 +12,8 @@ namespace brooklander::scenario {
 std::unique_ptr<Front> undrawn_front(const Files& files);
 
 // Sets windows up and gives the maker of their fronts, which save pictures in the folder; an empty
-// one wants none. Throws WrongLine, with one sentence, where the program was built without windows. A
-// display that cannot be reached ends the process, and the toolkit says why.
+// one wants none. Throws WrongLine, with one sentence, where the program was built without windows.
+// A display that cannot be reached ends the process, and the toolkit says why.
 using DrawnFrontMaker = std::function<FrontMaker(const std::filesystem::path& shots)>;
 
 // Does what the command line says; returns the exit status.

@@ -12,10 +12,7 @@ namespace {
 using enum FieldKind;
 using Json = nlohmann::ordered_json;
 
-std::string shown_text(const Field& field) {
-    const bool masked = field.kind() == text_box && static_cast<const TextBox&>(field).masked();
-    return masked ? std::string(field.text().size(), '*') : to_utf8(field.text());
-}
+std::string shown_text(const Field& field) { return to_utf8(told_text(field)); }
 
 void put_entries(Json& json, const EntryList& entries) {
     json["entries"] = Json::array();

@@ -23,8 +23,8 @@ bool word_at(std::string_view statement, std::size_t at, std::string_view word);
 // Whether the statement asks for rows and does nothing else: it begins with SELECT or WITH, and
 // outside quotes and comments stands nothing that could do more: no semicolon, behind which another
 // statement could follow, and neither INTO nor UPDATE, which keep or lock what is read. Quotes of
-// other kinds than the two of the standard (`E'`, `q'`, `$$`) are refused, since servers see them end
-// elsewhere.
+// other kinds than the two of the standard (`E'`, `q'`, `$$`) are refused, since servers see them
+// end elsewhere.
 bool is_query(std::string_view statement);
 
 }  // namespace brooklander

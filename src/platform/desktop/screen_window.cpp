@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QWindow>
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/pictures.h"
@@ -130,6 +131,13 @@ void ScreenWindow::stand_in_for(const ScreenWindow& other) {
     resize(other.size());
     move(other.pos());
     setWindowState(other.windowState() & ~Qt::WindowMinimized);
+}
+
+// A window manager places a window that comes back by itself, whatever it is told; a new one it
+// places as it is told.
+void ScreenWindow::leave() {
+    hide();
+    if (windowHandle() != nullptr) windowHandle()->destroy();
 }
 
 void ScreenWindow::holds(QWidget* card) { cards_.push_back({card}); }

@@ -39,6 +39,9 @@ class ScreenWindow : public QMainWindow {
     // Takes another window's place and size, before it is shown.
     void stand_in_for(const ScreenWindow& other);
 
+    // Hides the window, in a way that lets it come back where another one has stood since.
+    void leave();
+
     // Scrolls until the widget can be seen.
     void bring_into_view(QWidget* widget);
 

@@ -142,7 +142,7 @@ void Windows::show_windows() {
     }
     foremost_ = foremost;
     for (const auto& [screen, window] : windows_) {
-        if (!screen->visible() && window->isVisible()) window->hide();
+        if (!screen->visible() && window->isVisible()) window->leave();
     }
 }
 
