@@ -2,12 +2,13 @@
 
 #include <QApplication>
 #include <array>
+#include <cmath>
 
 namespace brooklander::desktop {
 
 QColor mixed(const QColor& one, const QColor& other, qreal share_of_other) {
     const auto part = [share_of_other](int from, int to) {
-        return static_cast<int>(from + (to - from) * share_of_other + 0.5);
+        return static_cast<int>(std::lround(from + (to - from) * share_of_other));
     };
     return {part(one.red(), other.red()), part(one.green(), other.green()),
             part(one.blue(), other.blue())};

@@ -25,7 +25,7 @@ class DrawnFront : public scenario::Front {
   public:
     DrawnFront(const Files& files, std::filesystem::path shots)
         : shots_(std::move(shots)), help_(files) {}
-    ~DrawnFront() override { end(); }
+    ~DrawnFront() override { DrawnFront::end(); }
 
     Help& help() override { return help_; }
 

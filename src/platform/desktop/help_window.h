@@ -7,6 +7,7 @@
 #include "platform/help.h"
 
 class QTextBrowser;
+class QWidget;
 
 namespace brooklander::desktop {
 
