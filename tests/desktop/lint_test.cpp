@@ -236,14 +236,16 @@ TEST_P(Windows, ShowWhatTheFieldsHoldWithoutAWarning) {
     EXPECT_EQ(take_warning(), "");
 }
 
-TEST_P(Windows, HaveANameOnEveryControl) {
-    for (QWidget* const widget : seen_in(window())) {
+void expect_named_controls(const QWidget& window) {
+    for (QWidget* const widget : seen_in(window)) {
         if (!is_control(*widget)) continue;
         const QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(widget);
         ASSERT_NE(read, nullptr) << name_of(*widget);
         EXPECT_FALSE(read->text(QAccessible::Name).isEmpty()) << name_of(*widget);
     }
 }
+
+TEST_P(Windows, HaveANameOnEveryControl) { expect_named_controls(window()); }
 
 // The card that a control lies on; null for none.
 const Card* card_of(const QWidget* widget) {
@@ -260,16 +262,16 @@ bool reads_on(const QRect& first, const QRect& second) {
                     : second.top() > first.top() || second.left() > first.right();
 }
 
-TEST_P(Windows, HaveATabOrderThatFollowsTheReading) {
+void expect_tab_order_of_reading(const QWidget& window) {
     std::vector<QWidget*> chain;
-    for (QWidget* at = window().nextInFocusChain(); at != &window(); at = at->nextInFocusChain()) {
+    for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
         if (at->isVisible() && at->isEnabled() && is_control(*at) &&
             (at->focusPolicy() & Qt::TabFocus) != 0) {
             chain.push_back(at);
         }
     }
-    const auto place_of = [this](const QWidget* widget) {
-        return QRect(widget->mapTo(&window(), QPoint(0, 0)), widget->size());
+    const auto place_of = [&window](const QWidget* widget) {
+        return QRect(widget->mapTo(&window, QPoint(0, 0)), widget->size());
     };
     std::vector<const Card*> left;
     for (std::size_t at = 1; at < chain.size(); ++at) {
@@ -284,6 +286,8 @@ TEST_P(Windows, HaveATabOrderThatFollowsTheReading) {
             << name_of(*chain[at]) << " comes when its card has been left";
     }
 }
+
+TEST_P(Windows, HaveATabOrderThatFollowsTheReading) { expect_tab_order_of_reading(window()); }
 
 void expect_no_clipped_text(const QWidget& window) {
     for (const QWidget* const widget : seen_in(window)) {
@@ -355,6 +359,28 @@ TEST_P(Windows, GrowWithTheDisplayAndClipNoTextThere) {
     DrawnProgram::rest();
     expect_no_clipped_text(window());
     save_picture(window(), state, scheme, "large");
+}
+
+// The screens that have no layout of their own yet, with all their panels up.
+TEST(PlainWindows, ShowEveryFieldByNameInReadingOrderWithoutClipping) {
+    DrawnProgram drawn;
+    drawn.act([&] { drawn.program.start(); });
+    for (Screen* const screen : drawn.screens().desk.screens()) {
+        if (screen == &drawn.start_screen() || screen == &drawn.import_screen()) continue;
+        drawn.act([&] {
+            screen->show();
+            for (Field* const field : screen->fields()) {
+                if (field->kind() == FieldKind::panel) field->show();
+            }
+        });
+        const QWidget& window = *drawn.windows.window_of(*screen);
+        SCOPED_TRACE(screen->name());
+        EXPECT_EQ(drawn.windows.difference(), "");
+        expect_named_controls(window);
+        expect_tab_order_of_reading(window);
+        expect_no_clipped_text(window);
+        drawn.act([&] { screen->hide(); });
+    }
 }
 
 std::vector<std::string> states() {
