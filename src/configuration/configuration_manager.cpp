@@ -1,5 +1,6 @@
 #include "configuration/configuration_manager.h"
 
+#include "shared/text.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -30,6 +31,14 @@ void optVox_Click(Screens& screens) {
     display.mnuExit.enable();
     display.cmdSave.enable();
     display.cmdSave.set_focus();
+}
+
+void mnuExit_Click(Screens& screens, FrmPreferences& preferences) {
+    preferences.lblWait.hide();
+    preferences.hide();
+    FrmStart& start = screens.frmStart;
+    start.show();
+    start.cmdView.set_enabled(!trim(start.lblSelectedFile.text()).empty());
 }
 
 }  // namespace brooklander

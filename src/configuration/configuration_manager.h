@@ -12,4 +12,7 @@ void load_configuration_manager(FrmPreferences& preferences);
 // screen, with no activity values from here.
 void optVox_Click(Screens& screens);
 
+// Back to the start screen, where a file that is still selected can be viewed.
+void mnuExit_Click(Screens& screens, FrmPreferences& preferences);
+
 }  // namespace brooklander

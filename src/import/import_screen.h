@@ -101,9 +101,15 @@ struct FrmImportFileDisplay : Screen {
     TextBox txtSave{frameOutputFile, "txtSave"};
     Button cmdExistingFileDelete{frameOutputFile, "cmdExistingFileDelete", "Delete"};
     Label lblDeletedFile{frameOutputFile, "lblDeletedFile"};
+    Label lblFileType{frameOutputFile, "lblFileType"};
     Panel frameExistingFile{frameOutputFile, "frameExistingFile",
                             "A file with this name already exists, do you want to overwrite it?",
                             hidden};
+    Button cmdOverwriteYes{frameExistingFile, "cmdOverwriteYes", "Yes"};
+    Button cmdOverwriteNo{frameExistingFile, "cmdOverwriteNo", "No"};
+    Panel frameKillFileConfirm{frameOutputFile, "frameKillFileConfirm", "Are you sure?", hidden};
+    Button cmdKillYes{frameKillFileConfirm, "cmdKillYes", "Yes"};
+    Button cmdKillNo{frameKillFileConfirm, "cmdKillNo", "No"};
 
     Panel frameFormat{*this, "frameFormat", "Select Format File Will Be Converted To", hidden};
     Option optVox{frameFormat, "optVox", "VOX"};

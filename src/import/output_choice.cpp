@@ -141,4 +141,13 @@ void mnuExit_Click(Screens& screens) {
     preferences.lblWait.hide();
 }
 
+void chkNoPreferences_Click(FrmImport& values) {
+    if (values.chkNoPreferences.ticked()) {
+        values.chkPreferences.set_ticked(false);
+        values.cmdConfirm.show();
+    } else if (!values.chkPreferences.ticked()) {
+        values.cmdConfirm.hide();
+    }
+}
+
 }  // namespace brooklander

@@ -30,4 +30,7 @@ void cmdFormatContinue_Click(FrmImportFileDisplay& display);
 
 void mnuExit_Click(Screens& screens);
 
+// The hidden choice between a defaults file and none, on the store of activity values.
+void chkNoPreferences_Click(FrmImport& values);
+
 }  // namespace brooklander

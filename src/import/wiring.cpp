@@ -12,6 +12,14 @@ void wire_import(Screens& screens, Platform& platform) {
         display.optVox.set_on(true);
         display.fileConvertedFiles.set_path(workspace::converted_files);
     };
+    FrmImport& values = screens.frmImport;
+    values.on_load = [&] { values.set_pointer(Pointer::normal); };
+    values.mnuExit.on_click = [&] {
+        values.hide();
+        screens.frmStart.show();
+    };
+    values.chkNoPreferences.on_click = [&] { chkNoPreferences_Click(values); };
+
     display.mnuExit.on_click = [&] { mnuExit_Click(screens); };
     display.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
 

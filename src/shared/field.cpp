@@ -23,7 +23,9 @@ Field::Field(FieldKind kind, Field* container, Screen* screen, std::string_view 
       name_(name),
       text_(text),
       visible_(start.visible),
-      enabled_(start.enabled) {
+      enabled_(start.enabled),
+      started_visible_(start.visible),
+      started_empty_(text.empty()) {
     if (container_ != nullptr) screen_->fields_.push_back(this);
 }
 

@@ -76,6 +76,10 @@ class Field {
     // Whether a user can work it: seen, and neither it nor a panel or menu around it disabled.
     bool usable() const;
 
+    // How it started, for the steps that take a screen back to where it was.
+    bool started_visible() const { return started_visible_; }
+    bool started_empty() const { return started_empty_; }
+
     // What the field says: a caption, a title, a text, a chosen drive, path or name.
     const std::string& text() const { return text_; }
 
@@ -122,6 +126,8 @@ class Field {
     std::string text_;
     bool visible_;
     bool enabled_;
+    bool started_visible_;
+    bool started_empty_;
     std::vector<std::function<void()>> observers_;
 };
 

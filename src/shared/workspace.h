@@ -14,6 +14,7 @@ namespace workspace {
 // backslash here, ready for a name behind them.
 inline constexpr std::string_view root = "c:\\brooklander";
 inline constexpr std::string_view converted_files = "c:\\brooklander\\voxoutfiles\\";
+inline constexpr std::string_view batch_files = "c:\\brooklander\\batchoutfiles\\";
 inline constexpr std::string_view configurations = "c:\\brooklander\\preferences\\";
 inline constexpr std::string_view characteristics = "c:\\brooklander\\characteristics\\";
 inline constexpr std::string_view help_file = "c:\\brooklander\\BROOKLANDER.HLP";

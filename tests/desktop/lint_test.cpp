@@ -247,12 +247,13 @@ void expect_named_controls(const QWidget& window) {
 
 TEST_P(Windows, HaveANameOnEveryControl) { expect_named_controls(window()); }
 
-// The card that a control lies on; null for none.
-const Card* card_of(const QWidget* widget) {
-    while (widget != nullptr && dynamic_cast<const Card*>(widget) == nullptr) {
-        widget = widget->parentWidget();
+// The card on the page that a control lies on, or the control itself where it lies on none.
+const QWidget* card_of(const QWidget* control) {
+    const QWidget* outermost = control;
+    for (const QWidget* at = control; at != nullptr; at = at->parentWidget()) {
+        if (dynamic_cast<const Card*>(at) != nullptr) outermost = at;
     }
-    return static_cast<const Card*>(widget);
+    return outermost;
 }
 
 // Whether the second comes behind the first for a reader: in rows, or down a column to the next.
@@ -273,10 +274,10 @@ void expect_tab_order_of_reading(const QWidget& window) {
     const auto place_of = [&window](const QWidget* widget) {
         return QRect(widget->mapTo(&window, QPoint(0, 0)), widget->size());
     };
-    std::vector<const Card*> left;
+    std::vector<const QWidget*> left;
     for (std::size_t at = 1; at < chain.size(); ++at) {
-        const Card* const before = card_of(chain[at - 1]);
-        const Card* const here = card_of(chain[at]);
+        const QWidget* const before = card_of(chain[at - 1]);
+        const QWidget* const here = card_of(chain[at]);
         const bool same = before == here;
         EXPECT_TRUE(same ? reads_on(place_of(chain[at - 1]), place_of(chain[at]))
                          : reads_on(place_of(before), place_of(here)))

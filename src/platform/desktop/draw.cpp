@@ -118,6 +118,17 @@ GridWidget* Draw::grid(Grid& grid, const QString& name) {
     return widget;
 }
 
+QLabel* Draw::title() {
+    auto* const widget = new QLabel(window_.surface());
+    widget->setTextFormat(Qt::PlainText);
+    widget->setFont(font_larger_by(4, QFont::Bold));
+    mark(*widget, "title");
+    // The window's own title follows the screen's.
+    widget->setText(shown(window_.screen().text()));
+    QObject::connect(&window_, &QWidget::windowTitleChanged, widget, &QLabel::setText);
+    return widget;
+}
+
 QLabel* Draw::text(const QString& text, QWidget* parent) {
     auto* const widget = new QLabel(text, parent);
     widget->setTextFormat(Qt::PlainText);

@@ -51,6 +51,9 @@ class Draw {
     QComboBox* pick_list(EntryList& list, const QString& name);
     GridWidget* grid(Grid& grid, const QString& name);
 
+    // The screen's title, above its cards.
+    QLabel* title();
+
     // A text that is no field.
     QLabel* text(const QString& text, QWidget* parent);
 

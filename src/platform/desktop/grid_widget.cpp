@@ -228,11 +228,8 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
         painter.drawLine(place.bottomLeft(), place.bottomRight());
         painter.drawLine(place.topRight(), place.bottomRight());
         painter.setPen(isEnabled() ? text : colours.edge);
-        const bool left = grid_.column_alignment(column) == Alignment::left;
-        painter.drawText(
-            place.adjusted(cell_margin, 0, -cell_margin, 0),
-            Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::Alignment()) | Qt::TextSingleLine,
-            row.cut[at]);
+        painter.drawText(place.adjusted(cell_margin, 0, -cell_margin, 0),
+                         Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, row.cut[at]);
         if (hasFocus() && cell == current_) {
             painter.setPen(QPen(colours.text, 1, Qt::DotLine));
             painter.drawRect(place.adjusted(1, 1, -2, -2));

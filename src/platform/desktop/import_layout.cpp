@@ -194,20 +194,38 @@ Card* row_card(Display& display, Draw& draw) {
     return card;
 }
 
+// A question inside of another card.
+Card* inner_question(Panel& panel, Button& yes, Button& no, Draw& draw) {
+    Card* const card = draw.card(panel);
+    QPushButton* const yes_button = draw.button(yes, 'Y');
+    QPushButton* const no_button = draw.button(no, 'N');
+    card->head()->addWidget(yes_button);
+    card->head()->addWidget(no_button);
+    draw.window().asks(card, no_button, no_button);
+    return card;
+}
+
 Card* output_card(Display& display, Draw& draw) {
     Card* const card = draw.card(display.frameOutputFile);
     ListWidget* const files =
-        draw.list(display.fileConvertedFiles, QStringLiteral("Converted files"));
+        draw.list(display.fileConvertedFiles, QStringLiteral("Existing Converted Files"));
     files->set_empty_text(QStringLiteral("No converted files yet."));
     files->setMaximumHeight(files->fontMetrics().height() * 8);
-    card->content()->addWidget(files);
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_controls);
-    line->addWidget(draw.text_box(display.txtSave, QStringLiteral("Output file")), 1);
+    line->addWidget(draw.value(display.lblDeletedFile, QStringLiteral("File to delete")), 1);
+    line->addWidget(draw.value(display.lblFileType, QStringLiteral("Format")));
     line->addWidget(draw.button(display.cmdExistingFileDelete, 'D'));
+    card->content()->addWidget(draw.text(QStringLiteral("Existing Converted Files"), card));
+    card->content()->addWidget(files);
     card->content()->addLayout(line);
-    card->content()->addWidget(draw.value(display.lblDeletedFile, QStringLiteral("Deleted file")));
-    card->content()->addWidget(draw.card(display.frameExistingFile));
+    card->content()->addWidget(draw.text(QStringLiteral("Save Name of New Converted File"), card));
+    card->content()->addWidget(
+        draw.text_box(display.txtSave, QStringLiteral("Save Name of New Converted File")));
+    card->content()->addWidget(inner_question(display.frameExistingFile, display.cmdOverwriteYes,
+                                              display.cmdOverwriteNo, draw));
+    card->content()->addWidget(
+        inner_question(display.frameKillFileConfirm, display.cmdKillYes, display.cmdKillNo, draw));
     return card;
 }
 

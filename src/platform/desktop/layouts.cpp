@@ -10,6 +10,8 @@ void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& wi
         lay_out_start(screens.frmStart, draw);
     } else if (&screen == &screens.frmImportFileDisplay) {
         lay_out_import(screens.frmImportFileDisplay, draw);
+    } else if (&screen == &screens.frmPreferences) {
+        lay_out_manager(screens.frmPreferences, draw);
     } else {
         lay_out_plainly(screen, draw);
     }

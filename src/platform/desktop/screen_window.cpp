@@ -39,6 +39,15 @@ class Water : public QWidget {
         if (tile_.isNull() || tile_.devicePixelRatio() != devicePixelRatioF()) mix();
         QPainter(this).drawTiledPixmap(rect(), tile_);
     }
+    // A layout does not tell a scroll area how high texts get that are broken into lines.
+    bool event(QEvent* event) override {
+        const bool handled = QWidget::event(event);
+        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+            const bool breaks_lines = layout()->hasHeightForWidth();
+            setMinimumHeight(breaks_lines ? layout()->totalMinimumHeightForWidth(width()) : 0);
+        }
+        return handled;
+    }
     void changeEvent(QEvent* event) override {
         if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) mix();
         QWidget::changeEvent(event);

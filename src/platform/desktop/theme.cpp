@@ -61,7 +61,7 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QPushButton[category="true"] { text-align: left; }
 QRadioButton:focus, QCheckBox:focus { color: %title; text-decoration: underline; }
-QComboBox:focus { border: 2px solid %accent; border-radius: 4px; }
+QAbstractScrollArea::corner { background: %page; }
 QToolTip { background: %card; color: %text; border: 1px solid %edge; padding: 4px; }
 )");
     // Longer names first, since a shorter one may begin one.

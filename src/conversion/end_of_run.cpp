@@ -1,0 +1,107 @@
+#include "conversion/end_of_run.h"
+
+#include "import/column_assignment.h"
+#include "shared/empty_screen.h"
+
+namespace brooklander {
+namespace {
+
+void forget_file_kind(FrmStart& start) {
+    start.optLogNo.set_on(false);
+    start.optLogYes.set_on(false);
+    start.chkPreferences.set_ticked(false);
+}
+
+void hide_markers(FrmImportFileDisplay& display) {
+    for (const Category& category : categories) (display.*category.marker).hide();
+}
+
+void empty_values(FrmImport& values) {
+    for (Label* label :
+         {&values.lblOrganization, &values.lblTrip, &values.lblActivityType,
+          &values.lblActivityCategory, &values.lblMedium, &values.lblSamplingProcedures,
+          &values.lblSamplingGear, &values.lblGearConfiguration, &values.lblSubjectTaxon,
+          &values.lblBiopartCaption}) {
+        label->clear_text();
+    }
+    values.cmdActivityNext.disable();
+}
+
+// All but the logon, which stands in the two boxes.
+void empty_start_screen(FrmStart& start) {
+    start.lblSelectedFile.clear_text();
+    start.lblTripIsNumber.clear_text();
+    start.lstImportFileBox.deselect();
+    start.filePreferences.deselect();
+    forget_file_kind(start);
+    hide_panels(start);
+    start.mnuFiles.enable();
+    start.mnuPreferences.enable();
+}
+
+void quit(Screens& screens) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    for (Screen* screen : std::initializer_list<Screen*>{
+             &screens.frmCharacteristicDetails, &screens.frmCharacteristics, &display,
+             &screens.frmLogger, &screens.frmPreferences, &screens.frmImport,
+             &screens.frmImportContinue, &screens.frmPreferencesSamples,
+             &screens.frmPreferencesSettings}) {
+        empty_screen(*screen);
+    }
+    empty_values(screens.frmImport);
+    hide_markers(display);
+    display.MSFlexKeldarIN.clear();
+    display.MSFlexResults.set_rows(0);
+    empty_start_screen(screens.frmStart);
+    display.hide();
+    screens.frmStart.show();
+}
+
+void go_on_with_another_file(Screens& screens) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    FrmStart& start = screens.frmStart;
+    if (!display.optAnotherFile.on()) display.mnuExit.enable();
+    display.frameVOX.hide();
+    display.frameConfiguration.hide();
+    display.frameConverted.hide();
+    display.txtActivityID.clear_text();
+    display.hide();
+    for (const Category& category : categories) (display.*category.button).disable();
+    display.cmdContinue.disable();
+
+    start.show();
+    start.cmdView.disable();
+    start.frameLog.hide();
+    forget_file_kind(start);
+    start.lblSelectedFile.clear_text();
+    display.cmdRowContinue.disable();
+    display.cmdFormatConfirm.disable();
+    start.cmdGoBack.hide();
+    start.cmdGoBack.disable();
+    display.optQuit.set_on(false);
+    display.optAnotherFile.set_on(false);
+    display.chkYes.set_ticked(false);
+    display.MSFlexKeldarIN.clear();
+    for (Field* field : std::initializer_list<Field*>{&display.lblSelectedFile, &display.txtSave,
+                                                      &display.lblDeletedFile, &display.lblRow,
+                                                      &display.lblMedium}) {
+        field->clear_text();
+    }
+    hide_markers(display);
+    hide_panels(screens.frmPreferences);
+    hide_panels(screens.frmImport);
+    empty_values(screens.frmImport);
+}
+
+}  // namespace
+
+void cmdConfirm_Click(Screens& screens) {
+    screens.frmImportFileDisplay.cmdConfirm.disable();
+    if (screens.frmImportFileDisplay.optQuit.on()) {
+        quit(screens);
+    } else {
+        go_on_with_another_file(screens);
+    }
+}
+
+}  // namespace brooklander
