@@ -135,8 +135,7 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (const auto key = key_of(*event); key && on_key) {
         on_key(*key);
         bring_into_view(grid_.current());
-        // Where nothing is typed, Escape is for a question that the window may ask.
-        if (is_typed_into || key->name != Key::Name::escape) return;
+        return;
     }
     event->ignore();
 }
