@@ -272,6 +272,19 @@ TEST_F(Views, TheFirstEntryOfAListWithoutASelectionIsPickedByAKey) {
     EXPECT_EQ(screen_.lstEntries.selected(), 0U);
 }
 
+TEST_F(Views, WithoutASelectionAnArrowPicksTheEntryThatTheCursorStandsAt) {
+    auto* const widget = made<ListWidget>();
+    watch(list_view(screen_.lstEntries, widget, acts_));
+    screen_.lstEntries.set_entries({"one", "two"});
+    acts_.follow();
+    widget->setCurrentIndex(widget->entries().index(0));
+    widget->selectionModel()->clearSelection();
+    QTest::keyClick(widget, Qt::Key_Down);
+    EXPECT_EQ(screen_.lstEntries.selected(), 0U);
+    QTest::keyClick(widget, Qt::Key_Down);
+    EXPECT_EQ(screen_.lstEntries.selected(), 1U);
+}
+
 TEST_F(Views, APressBelowTheLastEntryDeselectsNothing) {
     auto* const widget = made<ListWidget>();
     watch(list_view(screen_.lstEntries, widget, acts_));

@@ -147,10 +147,10 @@ TEST(WindowsAct, WhatAUserDoesWhileAStepBlocksIsDropped) {
         start.set_pointer(Pointer::busy);
         QCoreApplication::postEvent(
             user, new QKeyEvent(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "x"));
+        start.set_pointer(Pointer::normal);
     });
     DrawnProgram::rest();
     EXPECT_EQ(start.txtOracleID.text(), "");
-    drawn.act([&] { start.set_pointer(Pointer::normal); });
     QTest::keyClick(user, Qt::Key_X);
     EXPECT_EQ(start.txtOracleID.text(), "x");
 }
@@ -305,6 +305,42 @@ TEST(WindowsKeyboard, AQuestionThatIsAskedAgainGetsTheKeyboardAgain) {
     QTest::mouseClick(drawn.widget(drawn.import_screen().cmdNo), Qt::LeftButton);
     ask();
     EXPECT_EQ(QApplication::focusWidget(), drawn.widget(drawn.import_screen().cmdYes));
+}
+
+TEST(WindowsKeyboard, AfterAQuestionTheKeyboardIsWhereItWas) {
+    Started drawn;
+    QWidget* const password = drawn.widget(drawn.start_screen().txtOraclePassWord);
+    password->setFocus();
+    drawn.act([&] { drawn.start_screen().mnuExit.choose(); });
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), password);
+}
+
+TEST(WindowsKeyboard, ALetterWithAltIsNotTyped) {
+    Started drawn;
+    QTest::keyClick(drawn.widget(drawn.start_screen().txtOracleID), Qt::Key_Q, Qt::AltModifier);
+    EXPECT_EQ(drawn.start_screen().txtOracleID.text(), "");
+}
+
+// A step that has the windows painted while it blocks takes the keyboard's control away first and
+// brings the next panel up later.
+TEST(WindowsKeyboard, AStepThatBlocksLeadsTheKeyboardToItsNextPanel) {
+    Started drawn;
+    FrmImportFileDisplay& display = drawn.import_screen();
+    drawn.act([&] {
+        drawn.start_screen().hide();
+        display.frameImportedFile.show();
+        display.frameRowSelection.show();
+        display.show();
+    });
+    drawn.widget(display.cmdFormatConfirm)->setFocus();
+    drawn.act([&] {
+        display.set_pointer(Pointer::busy);
+        display.frameRowSelection.hide();
+        display.set_pointer(Pointer::normal);
+        display.frameConverted.show();
+    });
+    EXPECT_EQ(QApplication::focusWidget(), drawn.widget(display.optAnotherFile));
 }
 
 TEST(WindowsKeyboard, TabLeadsToTheFilledButtonOnceAStepIsComplete) {

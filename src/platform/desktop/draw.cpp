@@ -118,6 +118,10 @@ GridWidget* Draw::grid(Grid& grid, const QString& name) {
     return widget;
 }
 
+void Draw::begins_in(const Panel& panel, QWidget* control) {
+    window_.begins(windows_.view_of(panel)->widget(), control);
+}
+
 QLabel* Draw::title() {
     auto* const widget = new QLabel(window_.surface());
     widget->setTextFormat(Qt::PlainText);

@@ -51,6 +51,9 @@ class Draw {
     QComboBox* pick_list(EntryList& list, const QString& name);
     GridWidget* grid(Grid& grid, const QString& name);
 
+    // Where the keyboard goes when a panel that is drawn already comes up.
+    void begins_in(const Panel& panel, QWidget* control);
+
     // The screen's title, above its cards.
     QLabel* title();
 

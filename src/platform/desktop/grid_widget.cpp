@@ -66,6 +66,13 @@ void GridWidget::measure() {
     fit_scroll_bars();
 }
 
+// A little smaller than the cells', so that more of a caption fits.
+QFont GridWidget::caption_font() const {
+    QFont smaller = font();
+    if (smaller.pointSizeF() > 2) smaller.setPointSizeF(smaller.pointSizeF() - 1);
+    return smaller;
+}
+
 // Where columns can get a caption, room for a short one is kept from the start, so that no column
 // moves under the mouse when its neighbour gets one.
 int GridWidget::least_width() const { return marks_ ? fontMetrics().averageCharWidth() * 12 : 0; }
@@ -260,11 +267,21 @@ void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const
         if (mark.tint) painter.fillRect(place, tint(colours, *mark.tint));
         painter.setPen(colours.line);
         painter.drawLine(place.topRight(), place.bottomRight());
-        painter.setPen(mark.caption.isEmpty() ? colours.quiet : colours.text);
-        painter.drawText(place.adjusted(cell_margin, 0, -cell_margin / 2, 0),
-                         Qt::AlignVCenter | Qt::TextSingleLine,
-                         fontMetrics().elidedText(heading_of(column), Qt::ElideRight,
-                                                  place.width() - cell_margin - cell_margin / 2));
+        const QRect room = place.adjusted(cell_margin, 2, -cell_margin / 2, -2);
+        const auto fitting = [&](const QString& text) {
+            return painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width());
+        };
+        painter.setPen(colours.quiet);
+        if (!marks_) {
+            painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine,
+                             fitting(heading_of(column)));
+            continue;
+        }
+        painter.drawText(room, Qt::AlignTop | Qt::TextSingleLine, QString::number(column + 1));
+        painter.setPen(colours.text);
+        painter.setFont(caption_font());
+        painter.drawText(room, Qt::AlignBottom | Qt::TextSingleLine, fitting(mark.caption));
+        painter.setFont(font());
     }
     painter.setClipping(false);
 }

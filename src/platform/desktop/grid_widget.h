@@ -95,7 +95,8 @@ class GridWidget : public QAbstractScrollArea {
 
     int data_rows() const { return rows_ - fixed_rows_; }
     int row_pixels(int row) const;
-    int heading_height() const { return row_height_ + 4; }
+    // A caption has a line of its own below the number.
+    int heading_height() const { return row_height_ + 4 + (marks_ ? fontMetrics().height() : 0); }
     int column_left(int column) const { return row_heading_ + lefts_[std::size_t(column)] - x_; }
     int column_width(int column) const {
         return lefts_[std::size_t(column) + 1] - lefts_[std::size_t(column)];
@@ -112,6 +113,7 @@ class GridWidget : public QAbstractScrollArea {
     void read_page();
     QString heading_of(int column) const;
     int least_width() const;
+    QFont caption_font() const;
     QColor behind_column(const Colours& colours, int column) const;
     void paint_headings(QPainter& painter, const Colours& colours) const;
     void paint_row(QPainter& painter, const Colours& colours, const ShownRow& row) const;

@@ -237,7 +237,9 @@ Card* converted_card(Display& display, Draw& draw) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(inside_card);
     line->addWidget(draw.tick_box(display.chkView, 'w'));
-    line->addWidget(draw.option(display.optAnotherFile, 'A'));
+    QRadioButton* const another_file = draw.option(display.optAnotherFile, 'A');
+    draw.window().begins(card, another_file);
+    line->addWidget(another_file);
     line->addWidget(draw.option(display.optQuit, 'Q'));
     line->addStretch(1);
     line->addWidget(draw.filled(display.cmdConfirm, 'f'));
@@ -277,12 +279,14 @@ Card* table_card(Display& display, Draw& draw) {
     }
     card->content()->addWidget(table, 1);
     card->lead_to(table, 'I');
+    draw.begins_in(display.frameRowSelection, table);
+    draw.begins_in(display.frameCharColumn, table);
     return card;
 }
 
 // A card is read across; on a wide display it does not grow with the table.
 QHBoxLayout* of_readable_width(QWidget* card) {
-    constexpr int widest_in_letters = 165;
+    constexpr int widest_in_letters = 170;
     card->setMaximumWidth(card->fontMetrics().averageCharWidth() * widest_in_letters);
     card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto* const line = new QHBoxLayout;

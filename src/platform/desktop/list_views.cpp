@@ -253,6 +253,11 @@ void ListWidget::keyPressEvent(QKeyEvent* event) {
         default: break;
     }
     const QModelIndex before = currentIndex();
+    const bool steps = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (arrows_click && steps && before.isValid() && !selectionModel()->hasSelection()) {
+        click(before);  // the one that the cursor stands at, before any other
+        return;
+    }
     QListView::keyPressEvent(event);
     const bool moves = event->text().isEmpty() && event->key() != Qt::Key_Shift;
     const bool picks = currentIndex() != before || (moves && !selectionModel()->hasSelection());

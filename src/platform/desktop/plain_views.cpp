@@ -259,9 +259,13 @@ class TextBoxView : public WidgetView<TextBox, QLineEdit>, public QObject {
         if (event->type() == QEvent::MouseButtonPress &&
             static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             acts_.act(*this, [this] { field_.click(); });
-        } else if (event->type() == QEvent::KeyPress && !field_.focused() &&
-                   !moves_on(*static_cast<QKeyEvent*>(event))) {
-            acts_.act(*this, [this] { field_.set_focus(); });
+        } else if (event->type() == QEvent::KeyPress) {
+            const auto& key = *static_cast<QKeyEvent*>(event);
+            // With Alt a letter leads to a control, or nowhere; it is not typed.
+            if ((key.modifiers() & Qt::AltModifier) != 0 && !key.text().isEmpty()) return true;
+            if (!field_.focused() && !moves_on(key)) {
+                acts_.act(*this, [this] { field_.set_focus(); });
+            }
         }
         return QObject::eventFilter(watched, event);
     }

@@ -83,11 +83,11 @@ void ScreenWindow::asks(QWidget* card, QWidget* first, QWidget* no) {
     questions_.push_back({card, first, no});
 }
 
-void ScreenWindow::settled(const QWidget* had_keyboard, bool may_give_keyboard) {
+void ScreenWindow::settled(QWidget* had_keyboard, bool may_give_keyboard) {
     const bool lost =
         had_keyboard == nullptr || !had_keyboard->isVisible() || !had_keyboard->isEnabled();
-    const bool asked = ask(may_give_keyboard);
-    if (lost && may_give_keyboard && !asked) give_keyboard_to_new_card();
+    const bool asked = ask(had_keyboard, may_give_keyboard);
+    if (lost && may_give_keyboard && !asked) give_keyboard_on();
     for (CardPlace& place : cards_) place.was_up = place.card->isVisible();
     for (Mover& mover : movers_) {
         const bool is_ready = mover.button->isVisible() && mover.button->isEnabled();
@@ -98,11 +98,12 @@ void ScreenWindow::settled(const QWidget* had_keyboard, bool may_give_keyboard) 
 }
 
 // Gives the keyboard to a question that has come up; says whether one has got it.
-bool ScreenWindow::ask(bool may_give_keyboard) {
+bool ScreenWindow::ask(QWidget* had_keyboard, bool may_give_keyboard) {
     bool asked = false;
     for (Question& question : questions_) {
         const bool is_up = question.card->isVisible();
         if (is_up && !question.was_up && may_give_keyboard) {
+            before_question_ = had_keyboard;
             question.first->setFocus(Qt::OtherFocusReason);
             asked = true;
         }
@@ -111,17 +112,38 @@ bool ScreenWindow::ask(bool may_give_keyboard) {
     return asked;
 }
 
-void ScreenWindow::give_keyboard_to_new_card() {
-    for (const CardPlace& place : cards_) {
-        if (place.was_up || !place.card->isVisible()) continue;
-        for (QWidget* at = place.card->nextInFocusChain(); at != place.card;
-             at = at->nextInFocusChain()) {
-            const bool takes_it = (at->focusPolicy() & Qt::TabFocus) != 0 && at->isEnabled();
-            if (!takes_it || !at->isVisible() || !place.card->isAncestorOf(at)) continue;
-            at->setFocus(Qt::OtherFocusReason);
-            return;
-        }
+namespace {
+
+bool takes_keyboard(const QWidget* widget) {
+    return widget != nullptr && widget->isVisible() && widget->isEnabled() &&
+           (widget->focusPolicy() & Qt::TabFocus) != 0;
+}
+
+// The first control on a card in the order of the Tab key; null where there is none.
+QWidget* first_control_on(QWidget* card) {
+    for (QWidget* at = card->nextInFocusChain(); at != card; at = at->nextInFocusChain()) {
+        if (takes_keyboard(at) && card->isAncestorOf(at)) return at;
     }
+    return nullptr;
+}
+
+}  // namespace
+
+// To a card that has come up, or back to where it was before a question; otherwise it stays where
+// it has got by itself, or goes to the first card.
+void ScreenWindow::give_keyboard_on() {
+    QWidget* next = nullptr;
+    for (const CardPlace& place : cards_) {
+        if (next != nullptr || place.was_up || !place.card->isVisible()) continue;
+        next = takes_keyboard(place.first) ? place.first : first_control_on(place.card);
+    }
+    if (next == nullptr && takes_keyboard(before_question_)) next = before_question_;
+    before_question_ = nullptr;
+    if (next == nullptr && takes_keyboard(focusWidget())) return;
+    for (const CardPlace& place : cards_) {
+        if (next == nullptr && place.card->isVisible()) next = first_control_on(place.card);
+    }
+    if (next != nullptr) next->setFocus(Qt::OtherFocusReason);
 }
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
@@ -137,8 +159,8 @@ bool ScreenWindow::focusNextPrevChild(bool next) {
 // The place is told to the window manager, which would choose one of its own otherwise.
 void ScreenWindow::stand_in_for(const ScreenWindow& other) {
     setAttribute(Qt::WA_Moved);
-    resize(other.size());
-    move(other.pos());
+    setWindowState(Qt::WindowNoState);
+    setGeometry(other.isMaximized() ? other.normalGeometry() : other.geometry());
     setWindowState(other.windowState() & ~Qt::WindowMinimized);
 }
 
@@ -149,7 +171,13 @@ void ScreenWindow::leave() {
     if (windowHandle() != nullptr) windowHandle()->destroy();
 }
 
-void ScreenWindow::holds(QWidget* card) { cards_.push_back({card}); }
+void ScreenWindow::holds(QWidget* card) { cards_.push_back({card, nullptr, false}); }
+
+void ScreenWindow::begins(QWidget* card, QWidget* first) {
+    for (CardPlace& place : cards_) {
+        if (place.card == card) place.first = first;
+    }
+}
 
 void ScreenWindow::moves_on(QWidget* button) { movers_.push_back({button}); }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <vector>
 
@@ -29,12 +30,15 @@ class ScreenWindow : public QMainWindow {
     // gets it.
     void holds(QWidget* card);
 
+    // The same with another control than the first, which may lie on another card.
+    void begins(QWidget* card, QWidget* first);
+
     // The button that moves a step on: once it can be pressed, Tab leads to it next.
     void moves_on(QWidget* button);
 
     // To be called when all widgets follow their fields. `had_keyboard` is the control that had the
     // keyboard before; without `may_give_keyboard`, a step has given it already.
-    void settled(const QWidget* had_keyboard, bool may_give_keyboard);
+    void settled(QWidget* had_keyboard, bool may_give_keyboard);
 
     // Takes another window's place and size, before it is shown.
     void stand_in_for(const ScreenWindow& other);
@@ -64,7 +68,8 @@ class ScreenWindow : public QMainWindow {
 
     struct CardPlace {
         QWidget* card;
-        bool was_up = false;
+        QWidget* first;  // null for the first by Tab
+        bool was_up;
     };
     struct Mover {
         QWidget* button;
@@ -75,13 +80,14 @@ class ScreenWindow : public QMainWindow {
     QScrollArea* area_;
     QWidget* surface_;
     QVBoxLayout* page_layout_;
-    void give_keyboard_to_new_card();
-    bool ask(bool may_give_keyboard);
+    void give_keyboard_on();
+    bool ask(QWidget* had_keyboard, bool may_give_keyboard);
 
     std::vector<CardPlace> cards_;
     std::vector<Question> questions_;
     std::vector<Mover> movers_;
     QWidget* next_by_tab_ = nullptr;
+    QPointer<QWidget> before_question_;  // had the keyboard then
 };
 
 }  // namespace brooklander::desktop

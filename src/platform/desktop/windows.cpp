@@ -1,7 +1,6 @@
 #include "platform/desktop/windows.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <algorithm>
 #include <new>
 #include <utility>
@@ -65,15 +64,16 @@ void Windows::act(FieldView& origin, const std::function<void()>& step) {
 void Windows::act(const std::function<void()>& step) {
     if (over_ || acting_) return;
     acting_ = true;
+    was_busy_ = false;
+    note_keyboard();
     try {
         step();
-        const bool was_busy = busy_shown_;
         acting_ = false;
         if (screens_.ended) {
             end();
         } else {
             settle();
-            if (was_busy) drop_input();
+            if (was_busy_) drop_input();
         }
     } catch (const FatalFailure& failure) {
         fail(failure.what());
@@ -101,8 +101,7 @@ void Windows::settle() {
     for (Screen* const screen : screens_.desk.screens()) {
         if (screen->visible() && !windows_.contains(screen)) open_window(*screen);
     }
-    std::unordered_map<const Screen*, QPointer<QWidget>> had_keyboard;
-    for (const auto& [screen, window] : windows_) had_keyboard[screen] = window->focusWidget();
+    if (keyboard_.empty()) note_keyboard();
     for (FieldView* const view : std::exchange(waiting_, {})) {
         view->waits = false;
         view->follow();
@@ -110,10 +109,17 @@ void Windows::settle() {
     show_windows();
     const bool by_a_step = give_focus();
     for (const auto& [screen, window] : windows_) {
-        if (screen->visible()) window->settled(had_keyboard[screen], !by_a_step);
+        if (screen->visible()) window->settled(keyboard_[screen], !by_a_step);
     }
     follow_pointer();
+    if (!acting_) keyboard_.clear();
     settling_ = false;
+}
+
+// Which control of each window has the keyboard as a step begins: whether the step takes it away is
+// seen when the step is done.
+void Windows::note_keyboard() {
+    for (const auto& [screen, window] : windows_) keyboard_[screen] = window->focusWidget();
 }
 
 void Windows::open_window(Screen& screen) {
@@ -185,6 +191,7 @@ void Windows::follow_pointer() {
 }
 
 void Windows::paint_while_busy() {
+    was_busy_ = true;
     settle();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

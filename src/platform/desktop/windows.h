@@ -1,6 +1,7 @@
 // All windows of a program: they follow its fields, and bring to the fields what a user does.
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -62,6 +63,7 @@ class Windows : public Acts {
     void let_follow(FieldView& view);
     void open_window(Screen& screen);
     void close_by_frame(Screen& screen);
+    void note_keyboard();
     void show_windows();
     bool give_focus();
     void follow_pointer();
@@ -82,7 +84,9 @@ class Windows : public Acts {
     std::unordered_map<const Screen*, const Field*> focus_of_;
     const Screen* foremost_ = nullptr;
     const Field* origin_ = nullptr;  // what the user has worked, while its step runs
+    std::unordered_map<const Screen*, QPointer<QWidget>> keyboard_;
     bool busy_shown_ = false;
+    bool was_busy_ = false;  // at some time during the step
     bool acting_ = false;
     bool settling_ = false;
     bool over_ = false;
