@@ -57,6 +57,17 @@ void quit(Screens& screens) {
     screens.frmStart.show();
 }
 
+// Nothing of one file's configuration may come into the next file's lines.
+void forget_configuration(Screens& screens) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    empty_screen(screens.frmPreferences);
+    empty_screen(screens.frmImport);
+    empty_values(screens.frmImport);
+    display.lblConfiguration.clear_text();
+    display.lstRows.clear();
+    display.lstChar.clear();
+}
+
 void go_on_with_another_file(Screens& screens) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     FrmStart& start = screens.frmStart;
@@ -84,13 +95,11 @@ void go_on_with_another_file(Screens& screens) {
     display.MSFlexKeldarIN.clear();
     for (Field* field : std::initializer_list<Field*>{&display.lblSelectedFile, &display.txtSave,
                                                       &display.lblDeletedFile, &display.lblRow,
-                                                      &display.lblMedium}) {
+                                                      &display.lblRowVis, &display.lblMedium}) {
         field->clear_text();
     }
     hide_markers(display);
-    hide_panels(screens.frmPreferences);
-    hide_panels(screens.frmImport);
-    empty_values(screens.frmImport);
+    forget_configuration(screens);
 }
 
 }  // namespace
