@@ -135,11 +135,13 @@ QVBoxLayout* legend(Display& display, Card* card, Draw& draw) {
     // Three texts side by side, the middle one in bold.
     auto* const required = new QHBoxLayout;
     required->setSpacing(0);
-    for (const char* const piece : {"Buttons With ", "Bold", " Labels Are Required Entries"}) {
+    for (const char* const piece : {"Buttons With ", "Bold", "Labels Are Required Entries"}) {
         QLabel* const text = draw.text(QLatin1String(piece), card);
         text->setWordWrap(false);
-        if (piece == std::string_view("Bold")) text->setFont(font_larger_by(0, QFont::Bold));
+        const bool is_bold = piece == std::string_view("Bold");
+        if (is_bold) text->setFont(font_larger_by(0, QFont::Bold));
         required->addWidget(text);
+        if (is_bold) required->addSpacing(text->fontMetrics().horizontalAdvance(u' '));
     }
     required->addStretch(1);
     lines->addLayout(required);
