@@ -4,6 +4,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 
 #include "desktop/drawn_program.h"
@@ -368,6 +369,26 @@ TEST(WindowsKeyboard, WhenAControlGoesTheNewCardGetsTheKeyboard) {
     QTest::keyClick(drawn.widget(start.txtOracleID), Qt::Key_Return);
     drawn.act([&] { start.mnuImport.choose(); });
     EXPECT_EQ(QApplication::focusWidget(), drawn.widget(start.Drive1));
+}
+
+TEST(WindowsKeyboard, ThePageFollowsTheCurrentCellWhereItIsTooSmallForTheTable) {
+    Started drawn;
+    FrmImportFileDisplay& display = drawn.import_screen();
+    drawn.act([&] {
+        drawn.start_screen().hide();
+        display.frameCategoryResults.show();
+        display.frameImportedFile.show();
+        for (int row = 0; row < 40; ++row) display.MSFlexKeldarIN.add_row("LL-01\t7.2");
+        display.show();
+    });
+    ScreenWindow& window = *drawn.windows.window_of(display);
+    window.resize(1024, 300);
+    DrawnProgram::rest();
+    const auto* const area = window.findChild<QScrollArea*>();
+    ASSERT_EQ(area->verticalScrollBar()->value(), 0);
+    QWidget* const table = drawn.widget(display.MSFlexKeldarIN);
+    for (int key = 0; key < 3; ++key) QTest::keyClick(table, Qt::Key_Down);
+    EXPECT_GT(area->verticalScrollBar()->value(), 0);
 }
 
 TEST(WindowsKeyboard, TheFirstWindowBeginsAtTheUserId) {

@@ -2,6 +2,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
@@ -128,13 +129,13 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
             target.row = std::clamp(target.row, fixed_rows_, rows_ - 1);
             target.column = std::max(target.column, grid_.fixed_columns());
             on_move(target);
-            bring_into_view(grid_.current());
+            show_current_cell();
             return;
         }
     }
     if (const auto key = key_of(*event); key && on_key) {
         on_key(*key);
-        bring_into_view(grid_.current());
+        show_current_cell();
         return;
     }
     event->ignore();
@@ -163,6 +164,20 @@ void GridWidget::wheelEvent(QWheelEvent* event) {
     QScrollBar* const bar = horizontalScrollBar();
     bar->setValue(bar->value() - notches * 3 * bar->singleStep());
     event->accept();
+}
+
+// In the viewport, and on the page, where the window is too small to show the whole grid.
+void GridWidget::show_current_cell() {
+    const GridCell current = grid_.current();
+    bring_into_view(current);
+    for (QWidget* at = parentWidget(); at != nullptr; at = at->parentWidget()) {
+        auto* const area = qobject_cast<QScrollArea*>(at);
+        if (area == nullptr) continue;
+        const QPoint centre = cell_place(current).center();
+        const QPoint on_page = viewport()->mapTo(area->widget(), centre);
+        area->ensureVisible(on_page.x(), on_page.y(), row_height_, row_height_);
+        return;
+    }
 }
 
 bool GridWidget::viewportEvent(QEvent* event) {

@@ -107,6 +107,7 @@ class GridWidget : public QAbstractScrollArea {
     bool is_marked(GridCell cell) const;
 
     void tell_current_cell();
+    void show_current_cell();
     void measure();
     void measure_columns();
     void fit_scroll_bars();
