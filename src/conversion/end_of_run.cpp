@@ -1,29 +1,16 @@
 #include "conversion/end_of_run.h"
 
 #include "import/column_assignment.h"
+#include "import/output_choice.h"
 #include "shared/empty_screen.h"
 
 namespace brooklander {
 namespace {
 
-void forget_file_kind(FrmStart& start) {
-    start.optLogNo.set_on(false);
-    start.optLogYes.set_on(false);
-    start.chkPreferences.set_ticked(false);
-}
-
-void hide_markers(FrmImportFileDisplay& display) {
-    for (const Category& category : categories) (display.*category.marker).hide();
-}
-
+// The store of activity values has one caption that is a value, too.
 void empty_values(FrmImport& values) {
-    for (Label* label :
-         {&values.lblOrganization, &values.lblTrip, &values.lblActivityType,
-          &values.lblActivityCategory, &values.lblMedium, &values.lblSamplingProcedures,
-          &values.lblSamplingGear, &values.lblGearConfiguration, &values.lblSubjectTaxon,
-          &values.lblBiopartCaption}) {
-        label->clear_text();
-    }
+    empty_screen(values);
+    values.lblBiopartCaption.clear_text();
     values.cmdActivityNext.disable();
 }
 
@@ -43,9 +30,8 @@ void quit(Screens& screens) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     for (Screen* screen : std::initializer_list<Screen*>{
              &screens.frmCharacteristicDetails, &screens.frmCharacteristics, &display,
-             &screens.frmLogger, &screens.frmPreferences, &screens.frmImport,
-             &screens.frmImportContinue, &screens.frmPreferencesSamples,
-             &screens.frmPreferencesSettings}) {
+             &screens.frmLogger, &screens.frmPreferences, &screens.frmImportContinue,
+             &screens.frmPreferencesSamples, &screens.frmPreferencesSettings}) {
         empty_screen(*screen);
     }
     empty_values(screens.frmImport);
@@ -61,7 +47,6 @@ void quit(Screens& screens) {
 void forget_configuration(Screens& screens) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     empty_screen(screens.frmPreferences);
-    empty_screen(screens.frmImport);
     empty_values(screens.frmImport);
     display.lblConfiguration.clear_text();
     display.lstRows.clear();

@@ -10,10 +10,6 @@ namespace {
 
 constexpr std::string_view row_category = "First Row Of Data Results";
 
-void hide_markers(FrmImportFileDisplay& display) {
-    for (const Category& category : categories) (display.*category.marker).hide();
-}
-
 bool is_results(const Category& category) {
     return category.button == &FrmImportFileDisplay::cmdResults;
 }
@@ -95,6 +91,10 @@ void go_on_from_columns(Screens& screens, bool with_details) {
 }
 
 }  // namespace
+
+void hide_markers(FrmImportFileDisplay& display) {
+    for (const Category& category : categories) (display.*category.marker).hide();
+}
 
 void choose_category(Screens& screens, const Category& category) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;

@@ -48,6 +48,9 @@ inline constexpr std::array<Category, 8> categories{{
      &FrmImportFileDisplay::lblColumnVis, &FrmImportFileDisplay::cmdResultsClear, true},
 }};
 
+// No category carries the mark of the one in work.
+void hide_markers(FrmImportFileDisplay& display);
+
 // A category button: its category is in work from then on. The results' mark shows by rules of its
 // own, which hang on what the run is for.
 void choose_category(Screens& screens, const Category& category);

@@ -45,15 +45,18 @@ void cmdYes_Click(Screens& screens) {
     display.txtSave.set_text(output);
 }
 
+void forget_file_kind(FrmStart& start) {
+    start.optLogNo.set_on(false);
+    start.optLogYes.set_on(false);
+    start.chkPreferences.set_ticked(false);
+}
+
 void cmdNo_Click(Screens& screens) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     display.chkYes.set_ticked(false);
     display.hide();
-    FrmStart& start = screens.frmStart;
-    start.show();
-    start.optLogNo.set_on(false);
-    start.optLogYes.set_on(false);
-    start.chkPreferences.set_ticked(false);
+    screens.frmStart.show();
+    forget_file_kind(screens.frmStart);
 }
 
 void cmdSave_Click(Screens& screens, Files& files) {

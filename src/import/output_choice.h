@@ -11,6 +11,10 @@ namespace brooklander {
 void cmdYes_Click(Screens& screens);
 void cmdNo_Click(Screens& screens);
 
+// What the start screen knows of the selected file's kind and use; whoever comes back there clears
+// it.
+void forget_file_kind(FrmStart& start);
+
 // Creates the output file empty, one of that name included, and asks for the filler. A file that
 // cannot be created is a FatalFailure.
 void cmdSave_Click(Screens& screens, Files& files);

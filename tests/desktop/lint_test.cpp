@@ -380,6 +380,7 @@ TEST(PlainWindows, ShowEveryFieldByNameInReadingOrderWithoutClipping) {
         expect_named_controls(window);
         expect_tab_order_of_reading(window);
         expect_no_clipped_text(window);
+        save_picture(*drawn.windows.window_of(*screen), screen->name(), schemes().front(), "plain");
         drawn.act([&] { screen->hide(); });
     }
 }

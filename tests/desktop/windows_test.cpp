@@ -102,7 +102,7 @@ TEST(WindowsFollow, AFailureWhileTheyFollowEndsTheProgramToo) {
     class Exhausted : public FieldView {
       public:
         explicit Exhausted(Field& field) : field_(field) {}
-        const Field& field() const override { return field_; }
+        Field& field() const override { return field_; }
         QWidget* widget() const override { return nullptr; }
         void follow() override { throw std::bad_alloc(); }
         QString difference() const override { return {}; }

@@ -64,6 +64,18 @@ QPushButton* Draw::button(Button& button, char letter, Weight weight) {
     return widget;
 }
 
+Draw::Answers Draw::to_go_on(Card* card, Button& yes, Button& no) {
+    const Answers answers{filled(yes, 'Y'), button(no, 'N')};
+    window_.asks(card, answers.yes, answers.no);
+    return answers;
+}
+
+Draw::Answers Draw::to_be_sure(Card* card, Button& yes, Button& no) {
+    const Answers answers{filled(yes, 'Y'), button(no, 'N')};
+    window_.asks(card, answers.no, answers.no);
+    return answers;
+}
+
 QCheckBox* Draw::tick_box(TickBox& box, char letter) {
     auto* const widget = new QCheckBox(parent_of(box));
     if (box.empty()) widget->setAccessibleName(shown(box.name()));

@@ -12,10 +12,9 @@
 #include "platform/desktop/list_views.h"
 #include "platform/desktop/plain_views.h"
 #include "platform/desktop/screen_window.h"
+#include "platform/desktop/windows.h"
 
 namespace brooklander::desktop {
-
-class Windows;
 
 // How a button looks: as one among others, or as the one that moves the work on.
 enum class Weight { quiet, filled };
@@ -40,6 +39,15 @@ class Draw {
     QPushButton* filled(Button& field, char letter) {
         return button(field, letter, Weight::filled);
     }
+    // The answers of a card that asks. One that is asked to go on has a filled Yes, which gets the
+    // keyboard; one that is asked to be sure gives it to No. Escape presses No.
+    struct Answers {
+        QPushButton* yes;
+        QPushButton* no;
+    };
+    Answers to_go_on(Card* card, Button& yes, Button& no);
+    Answers to_be_sure(Card* card, Button& yes, Button& no);
+
     QCheckBox* tick_box(TickBox& box, char letter = no_letter);
     QRadioButton* option(Option& option, char letter = no_letter);
 
@@ -51,6 +59,9 @@ class Draw {
     QComboBox* pick_list(EntryList& list, const QString& name);
     GridWidget* grid(Grid& grid, const QString& name);
 
+    // What is drawn of a field hangs on another one, too.
+    void follow_also(const Field& drawn, Field& other) { windows_.follow_also(drawn, other); }
+
     // Where the keyboard goes when a panel that is drawn already comes up.
     void begins_in(const Panel& panel, QWidget* control);
 
@@ -60,7 +71,6 @@ class Draw {
     // A text that is no field.
     QLabel* text(const QString& text, QWidget* parent);
 
-    QWidget* surface() { return window_.surface(); }
     ScreenWindow& window() { return window_; }
 
   private:

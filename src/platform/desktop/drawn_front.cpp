@@ -1,11 +1,8 @@
 #include "platform/desktop/drawn_front.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QMenu>
 #include <QPushButton>
 #include <QTest>
-#include <optional>
 
 #include "platform/desktop/drawn_user.h"
 #include "platform/desktop/failure_box.h"

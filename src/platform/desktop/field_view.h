@@ -17,7 +17,7 @@ class FieldView {
     FieldView& operator=(const FieldView&) = delete;
     virtual ~FieldView() = default;
 
-    virtual const Field& field() const = 0;
+    virtual Field& field() const = 0;
 
     // The widget that is the field for the user; null for menus, which are none.
     virtual QWidget* widget() const = 0;
@@ -55,7 +55,7 @@ class WidgetView : public FieldView {
         widget->setObjectName(shown(field.name()));
     }
 
-    const Field& field() const override { return field_; }
+    Field& field() const override { return field_; }
     Widget* widget() const override { return widget_; }
 
     void follow() override {

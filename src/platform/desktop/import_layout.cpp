@@ -8,6 +8,7 @@
 #include "import/column_assignment.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "shared/text.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -21,12 +22,10 @@ constexpr std::array<char, categories.size()> category_letters{'S', 'D', 'T', 'A
 // A question with a Yes and a No beside it.
 Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, const QString& text = {}) {
     Card* const card = draw.card(panel);
-    QPushButton* const yes_button = draw.filled(yes, 'Y');
-    QPushButton* const no_button = draw.button(no, 'N');
+    const auto [yes_button, no_button] = draw.to_go_on(card, yes, no);
     if (!text.isEmpty()) card->head()->addWidget(draw.text(text, card), 2);
     card->head()->addWidget(yes_button);
     card->head()->addWidget(no_button);
-    draw.window().asks(card, yes_button, no_button);
     return card;
 }
 
@@ -199,11 +198,9 @@ Card* row_card(Display& display, Draw& draw) {
 // A question inside of another card.
 Card* inner_question(Panel& panel, Button& yes, Button& no, Draw& draw) {
     Card* const card = draw.card(panel);
-    QPushButton* const yes_button = draw.button(yes, 'Y');
-    QPushButton* const no_button = draw.button(no, 'N');
+    const auto [yes_button, no_button] = draw.to_be_sure(card, yes, no);
     card->head()->addWidget(yes_button);
     card->head()->addWidget(no_button);
-    draw.window().asks(card, no_button, no_button);
     return card;
 }
 
@@ -258,7 +255,7 @@ ColumnMark mark_of(const Display& display, int column) {
         const std::string& assigned = (display.*category.column).text();
         const QString name = shown((display.*category.button).text()).trimmed();
         const bool is_results = category.button == &Display::cmdResults;
-        const int first = assigned.empty() ? -1 : std::atoi(assigned.c_str());
+        const int first = assigned.empty() ? -1 : position_in(assigned);
         if (first == column) {
             found.caption += (found.caption.isEmpty() ? QString() : QStringLiteral(" + ")) + name;
             found.tint = number;
@@ -277,7 +274,7 @@ Card* table_card(Display& display, Draw& draw) {
     table->set_empty_text(QStringLiteral("The file holds no lines."));
     table->set_column_marks([&display](int column) { return mark_of(display, column); });
     for (const Category& category : categories) {
-        (display.*category.column).observe([&display] { display.MSFlexKeldarIN.refreshed(); });
+        draw.follow_also(display.MSFlexKeldarIN, display.*category.column);
     }
     card->content()->addWidget(table, 1);
     card->lead_to(table, 'I');

@@ -17,10 +17,8 @@ constexpr int left_in_letters = 60;
 
 Card* question(Panel& panel, Button& yes, Button& no, Draw& draw) {
     Card* const card = draw.card(panel);
-    QPushButton* const yes_button = draw.filled(yes, 'Y');
-    QPushButton* const no_button = draw.button(no, 'N');
+    const auto [yes_button, no_button] = draw.to_be_sure(card, yes, no);
     card->content()->addLayout(row({yes_button, no_button}, Side::right));
-    draw.window().asks(card, no_button, no_button);
     return card;
 }
 

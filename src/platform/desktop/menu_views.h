@@ -15,7 +15,7 @@ class MenuView : public FieldView {
   public:
     MenuView(MenuEntry& entry, QAction* action, Acts& acts);
 
-    const Field& field() const override { return entry_; }
+    Field& field() const override { return entry_; }
     QWidget* widget() const override { return nullptr; }
     QAction* action() const { return action_; }
     void follow() override;

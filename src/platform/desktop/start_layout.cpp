@@ -61,10 +61,8 @@ Card* refusal_card(FrmStart& start, Draw& draw) {
 Card* exit_card(FrmStart& start, Draw& draw) {
     Card* const card = draw.card(start.frameExit);
     keep_width(card, 56);
-    QPushButton* const yes = draw.filled(start.cmdYes, 'Y');
-    QPushButton* const no = draw.button(start.cmdNo, 'N');
+    const auto [yes, no] = draw.to_be_sure(card, start.cmdYes, start.cmdNo);
     card->content()->addLayout(row({yes, no}, Side::right));
-    draw.window().asks(card, no, no);
     return card;
 }
 

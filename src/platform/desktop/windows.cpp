@@ -30,8 +30,13 @@ void Windows::add(std::unique_ptr<FieldView> view) {
     view_of_[&added->field()] = added;
     let_follow(*added);
     views_.push_back(std::move(view));
-    // Observers only watch: the field is changed by its own handlers alone.
-    const_cast<Field&>(added->field()).observe([this, added] { field_changed(*added); });
+    added->field().observe([this, added] { field_changed(*added); });
+}
+
+void Windows::follow_also(const Field& drawn, Field& other) {
+    other.observe([this, view = view_of(drawn)] {
+        if (!over_) let_follow(*view);
+    });
 }
 
 void Windows::let_follow(FieldView& view) {

@@ -56,6 +56,10 @@ class Windows : public Acts {
     // For the layouts: takes a view in.
     void add(std::unique_ptr<FieldView> view);
 
+    // For the layouts: a field that is drawn already shows something of another one, too, and
+    // follows when that changes.
+    void follow_also(const Field& drawn, Field& other);
+
   private:
     void watch(Screen& screen);
     void screen_changed(const Screen& screen);
