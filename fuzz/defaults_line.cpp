@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "characteristics/defaults_file.h"
+#include "characteristics/defaults_layout.h"
 #include "shared/tab_stops.h"
 
 namespace {

@@ -13,6 +13,9 @@ struct FrmCharacteristicDetails : Screen {
         MSHFlexUOM.set_column_widths({1000, 2200});
     }
 
+    Label lblFileName{*this, "lblFileName"};
+    Button cmdSave{*this, "cmdSave", "Save", disabled};
+
     Grid MSFlexDetails{*this, "MSFlexDetails", {.columns = 13}};
 
     // The analytical procedure, in two stages: its source, then its name. lblProcSource repeats

@@ -9,6 +9,9 @@ struct FrmCharacteristics : Screen {
     explicit FrmCharacteristics(Desk& desk)
         : Screen(desk, "frmCharacteristics", "Characteristics Translation") {}
 
+    Label lblFile{*this, "lblFile"};
+    Label lblOrgID{*this, "lblOrgID"};
+
     List lstCharacteristics{*this, "lstCharacteristics"};
 
     // Column 0 the file's names, column 1 their translations.

@@ -2,15 +2,17 @@
 // hold the values of the current configuration.
 #pragma once
 
+#include "configuration/configuration_panel.h"
 #include "shared/place_lists.h"
 
 namespace brooklander {
 
-struct FrmPreferences : Screen {
+struct FrmPreferences : Screen, ConfigurationPanel {
     static constexpr std::string_view title_from_the_menu =
         "Create Or View Brooklander Configuration Files";
 
-    explicit FrmPreferences(Desk& desk) : Screen(desk, "frmPreferences", title_from_the_menu) {}
+    explicit FrmPreferences(Desk& desk)
+        : Screen(desk, "frmPreferences", title_from_the_menu), ConfigurationPanel(*this, hidden) {}
 
     MenuEntry mnuExit{*this, "mnuExit", "Exit"};
     MenuEntry mnuHelp{*this, "mnuHelp", "Help"};
@@ -64,39 +66,14 @@ struct FrmPreferences : Screen {
                       "For The File Being Converted."};
     Label lblDescription{frameDescription, "lblDescription"};
 
-    // What the selected configuration file holds. The labels keep the current configuration of the
-    // run when the panel is hidden.
-    Panel frameView{*this, "frameView", "Contents of Selected Configuration File", hidden};
-    Label lblViewFileName{frameView, "lblViewFileName"};
-    Label lblOrganization{frameView, "lblOrganization"};
-    Label lblOrganizationName{frameView, "lblOrganizationName"};
-    Label lblActivityType{frameView, "lblActivityType"};
-    Label lblActivityCategory{frameView, "lblActivityCategory"};
-    Label lblMedium{frameView, "lblMedium"};
-    Label lblSampleTransport{frameView, "lblSampleTransport"};
-    Label lblPerson{frameView, "lblPerson"};
-    Label lblSampleCollectionID{frameView, "lblSampleCollectionID"};
-    Label lblFieldGearID{frameView, "lblFieldGearID"};
-    Label lblGearType{frameView, "lblGearType"};
-    Label lblGearConfiguration{frameView, "lblGearConfiguration"};
-    Label lblProjectID{frameView, "lblProjectID"};
-    Label lblProjectName{frameView, "lblProjectName"};
-    Label lblDepthUnits{frameView, "lblDepthUnits"};
-    Label lblTimeZone{frameView, "lblTimeZone"};
-    Label lblTrip{frameView, "lblTrip"};
-    Label lblChar{frameView, "lblChar"};
-    TickBox chkEdit{frameView, "chkEdit", "Edit"};
+    // In the panel of what the selected file holds, whose labels keep the current configuration of
+    // the run when the panel is hidden.
     Label lblWait{frameView, "lblWait", "** Please Wait **", hidden};
 
     Panel frameFileOptions{frameView, "frameFileOptions", "File Options", hidden};
     Button cmdClose{frameFileOptions, "cmdClose", "Close"};
     Button cmdOpen{frameFileOptions, "cmdOpen", "Edit", disabled};
     Button cmdDelete{frameFileOptions, "cmdDelete", "Delete", disabled};
-
-    Panel frameUseFile{frameView, "frameUseFile", "Use This Configuration  With Imported File?",
-                       hidden};
-    TickBox chkYes{frameUseFile, "chkYes", "Yes"};
-    Button cmdConfirm{frameUseFile, "cmdConfirm", "Confirm", disabled};
 
     Panel frameNoChar{frameView, "frameNoChar",
                       "No Characteristics Configurations Have Been Set Up For This Configuration "

@@ -1,16 +1,50 @@
 #include "configuration/wiring.h"
 
+#include "configuration/configuration_choice.h"
 #include "configuration/configuration_manager.h"
+#include "configuration/configuration_name.h"
+#include "configuration/configuration_use.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
+namespace {
 
-void wire_configuration(Screens& screens, Platform& platform) {
+void wire_manager(Screens& screens, Platform& platform) {
     FrmPreferences& preferences = screens.frmPreferences;
     preferences.on_load = [&] { load_configuration_manager(preferences); };
     preferences.mnuExit.on_click = [&] { mnuExit_Click(screens, preferences); };
     preferences.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
+
+    preferences.optBrookLanderEdit.on_click = [&] { optBrookLanderEdit_Click(screens); };
+    preferences.optBrooklanderNew.on_click = [&] { optBrooklanderNew_Click(screens); };
+    preferences.optUseConfig.on_click = [&] { optUseConfig_Click(screens); };
     preferences.optVox.on_click = [&] { optVox_Click(screens); };
+
+    preferences.cmdCreate.on_click = [&] { cmdCreate_Click(preferences); };
+    preferences.txtFileName.on_change = [&] { txtFileName_Change(preferences); };
+    preferences.txtFileName.on_click = [&] { txtFileName_Click(preferences); };
+    preferences.cmdNewFileSave.on_click = [&] { cmdNewFileSave_Click(screens, platform.files); };
+    preferences.cmdReplaceNo.on_click = [&] { cmdReplaceNo_Click(preferences); };
+    preferences.cmdReplaceYes.on_click = [&] { preferences.frameConfirm.show(); };
+    preferences.cmdYes.on_click = [&] { cmdYes_Click(screens, platform); };
+    preferences.cmdNo.on_click = [&] { preferences.frameConfirm.hide(); };
+
+    preferences.filePreferences.on_click = [&] { filePreferences_Click(screens, platform.files); };
+    preferences.cmdClose.on_click = [&] { cmdClose_Click(preferences); };
+    preferences.cmdDelete.on_click = [&] { cmdDelete_Click(preferences); };
+    preferences.cmdFileDeleteYes.on_click = [&] {
+        cmdFileDeleteYes_Click(preferences, platform.files);
+    };
+    preferences.cmdFileDeleteNo.on_click = [&] { preferences.frameConfirmDelete.hide(); };
+
+    preferences.chkYes.on_click = [&] {
+        preferences.cmdConfirm.set_enabled(preferences.chkYes.ticked());
+    };
+    preferences.cmdConfirm.on_click = [&] { cmdConfirm_Click(screens, platform); };
 }
+
+}  // namespace
+
+void wire_configuration(Screens& screens, Platform& platform) { wire_manager(screens, platform); }
 
 }  // namespace brooklander

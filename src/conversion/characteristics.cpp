@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "characteristics/defaults_file.h"
+#include "characteristics/defaults_layout.h"
 #include "platform/fatal_failure.h"
 #include "shared/text_reading.h"
 

@@ -1,8 +1,7 @@
 #include "logon/logon.h"
 
-#include <string>
-
 #include "platform/fatal_failure.h"
+#include "shared/keldar.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -22,8 +21,7 @@ void cmdUIDok_Click(FrmStart& start, Database& database) {
     start.set_pointer(Pointer::busy);
     start.frameOracleLogon.hide();
     try {
-        database.try_connect("ODBC;DATABASE=KELDAR2;UID=" + start.txtOracleID.text() + ";" +
-                             "PWD=" + start.txtOraclePassWord.text() + ";DSN=keldar");
+        database.try_connect(keldar_connect_string(start.txtOracleID, start.txtOraclePassWord));
         start.set_pointer(Pointer::normal);
     } catch (const FatalFailure&) {
         start.set_pointer(Pointer::normal);

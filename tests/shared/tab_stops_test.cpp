@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "characteristics/defaults_file.h"
+#include "characteristics/defaults_layout.h"
 
 namespace brooklander {
 namespace {

@@ -12,6 +12,8 @@ void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& wi
         lay_out_import(screens.frmImportFileDisplay, draw);
     } else if (&screen == &screens.frmPreferences) {
         lay_out_manager(screens.frmPreferences, draw);
+    } else if (&screen == &screens.frmConfigurationDisplay) {
+        lay_out_display(screens.frmConfigurationDisplay, draw);
     } else {
         lay_out_plainly(screen, draw);
     }

@@ -12,6 +12,7 @@ void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& wi
 void lay_out_start(FrmStart& start, Draw& draw);
 void lay_out_import(FrmImportFileDisplay& display, Draw& draw);
 void lay_out_manager(FrmPreferences& manager, Draw& draw);
+void lay_out_display(FrmConfigurationDisplay& display, Draw& draw);
 
 // One card a panel, one field below the other, in the order in which the screen has them.
 void lay_out_plainly(Screen& screen, Draw& draw);

@@ -1,10 +1,8 @@
-#include <QCheckBox>
-#include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <array>
 
+#include "platform/desktop/configuration_view.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
 
@@ -73,66 +71,12 @@ Card* description_card(Manager& manager, Draw& draw) {
     return card;
 }
 
-// A value of the selected file, with its caption on the left.
-struct ValueRow {
-    const char* caption;
-    Label Manager::*value;
-};
-
-// From left to right, two in a row.
-constexpr std::array<ValueRow, 18> value_rows{{
-    {"File Name:", &Manager::lblViewFileName},
-    {"Characteristics:", &Manager::lblChar},
-    {"Organization ID:", &Manager::lblOrganization},
-    {"Organization Name:", &Manager::lblOrganizationName},
-    {"Activity Type:", &Manager::lblActivityType},
-    {"Activity Category:", &Manager::lblActivityCategory},
-    {"Medium:", &Manager::lblMedium},
-    {"Depth Units:", &Manager::lblDepthUnits},
-    {"Sample Collection ID:", &Manager::lblSampleCollectionID},
-    {"Sample Transport:", &Manager::lblSampleTransport},
-    {"Field Gear ID:", &Manager::lblFieldGearID},
-    {"Gear Type", &Manager::lblGearType},
-    {"Gear Configuration", &Manager::lblGearConfiguration},
-    {"Person:", &Manager::lblPerson},
-    {"Project ID:", &Manager::lblProjectID},
-    {"Project Name:", &Manager::lblProjectName},
-    {"Time Zone:", &Manager::lblTimeZone},
-    {"Trip ID:", &Manager::lblTrip},
-}};
-
-QGridLayout* values(Manager& manager, Card* card, Draw& draw) {
-    auto* const form = new QGridLayout;
-    form->setHorizontalSpacing(inside_card);
-    form->setVerticalSpacing(2);
-    int place = 0;
-    for (const ValueRow& value : value_rows) {
-        const QString caption = QLatin1String(value.caption);
-        QLabel* const text = draw.text(caption, card);
-        text->setWordWrap(false);
-        form->addWidget(text, place / 2, place % 2 * 2);
-        form->addWidget(draw.value(manager.*value.value, caption), place / 2, place % 2 * 2 + 1);
-        ++place;
-    }
-    form->setColumnStretch(1, 1);
-    form->setColumnStretch(3, 1);
-    return form;
-}
-
 Card* file_options_card(Manager& manager, Draw& draw) {
     Card* const card = draw.card(manager.frameFileOptions);
     QPushButton* const close = draw.button(manager.cmdClose, 'l');
     QPushButton* const remove = draw.button(manager.cmdDelete, 'D');
     QPushButton* const open = draw.filled(manager.cmdOpen, 'E');
     for (QPushButton* const button : {close, remove, open}) card->head()->addWidget(button);
-    return card;
-}
-
-Card* use_card(Manager& manager, Draw& draw) {
-    Card* const card = draw.card(manager.frameUseFile);
-    QCheckBox* const yes = draw.tick_box(manager.chkYes, 'Y');
-    card->head()->addWidget(yes);
-    card->head()->addWidget(draw.filled(manager.cmdConfirm, 'f'));
     return card;
 }
 
@@ -143,11 +87,8 @@ Card* no_characteristics_card(Manager& manager, Draw& draw) {
 }
 
 Card* view_card(Manager& manager, Draw& draw) {
-    Card* const card = draw.card(manager.frameView);
+    Card* const card = configuration_card(manager, QStringLiteral("Project Name:"), draw);
     card->head()->addWidget(draw.note(manager.lblWait));
-    card->content()->addLayout(values(manager, card, draw));
-    card->content()->addWidget(draw.tick_box(manager.chkEdit, 'i'));
-    card->content()->addStretch(1);
     card->content()->addWidget(file_options_card(manager, draw));
     card->content()->addWidget(use_card(manager, draw));
     card->content()->addWidget(no_characteristics_card(manager, draw));
