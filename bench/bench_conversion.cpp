@@ -23,6 +23,7 @@
 #include <vector>
 
 #include "road.h"
+#include "sample_configuration.h"
 #include "sample_table.h"
 
 namespace brooklander::bench {
@@ -104,18 +105,18 @@ struct Round {
     Cost copy;
 };
 
-Round load_and_convert(const Workplace& place) {
+Round load_and_convert(const Workplace& place, Under under) {
     Round round;
     Road road(place.home());
     road.up_to_view();
     round.load = cost_of(RUSAGE_SELF, [&] { road.view(); });
-    road.up_to_convert();
+    road.up_to_convert(under);
     round.convert = cost_of(RUSAGE_SELF, [&] { road.convert(); });
     return round;
 }
 
-Round measure_once(const Workplace& place) {
-    Round round = load_and_convert(place);
+Round measure_once(const Workplace& place, Under under) {
+    Round round = load_and_convert(place, under);
     fs::remove(place.copy());
     round.copy = cost_of(RUSAGE_CHILDREN, [&] {
         run_command({"cp", "--reflink=never", place.output().string(), place.copy().string()});
@@ -130,10 +131,10 @@ double median(const std::vector<Round>& all, const std::function<double(const Ro
     return figures[figures.size() / 2];
 }
 
-void measure_time(const Workplace& place, int rows) {
-    measure_once(place);
+void measure_time(const Workplace& place, int rows, Under under) {
+    measure_once(place, under);
     std::vector<Round> all;
-    for (int i = 0; i < rounds; ++i) all.push_back(measure_once(place));
+    for (int i = 0; i < rounds; ++i) all.push_back(measure_once(place, under));
     const double load = median(all, [](const Round& r) { return r.load.wall; });
     const double convert = median(all, [](const Round& r) { return r.convert.wall; });
     const double together =
@@ -155,9 +156,9 @@ void measure_time(const Workplace& place, int rows) {
 // machine that has to fetch it from its host again makes large files dear for everyone.
 void measure_growth(const Workplace& place, int rows) {
     fs::remove(place.copy());
-    load_and_convert(place);
+    load_and_convert(place, Under::module);
     std::vector<Round> all;
-    for (int i = 0; i < rounds; ++i) all.push_back(load_and_convert(place));
+    for (int i = 0; i < rounds; ++i) all.push_back(load_and_convert(place, Under::module));
     const double cpu = median(all, [](const Round& r) { return r.load.cpu + r.convert.cpu; });
     const double user = median(all, [](const Round& r) { return r.load.user + r.convert.user; });
     std::printf("    without copies in between %6.2f us of CPU a row, %5.2f us of it our own\n",
@@ -184,7 +185,7 @@ void print_memory(const fs::path& home) {
     std::ofstream("/proc/self/clear_refs") << "5";
     road.view();
     const double loaded = memory_now("VmHWM");
-    road.up_to_convert();
+    road.up_to_convert(Under::module);
     std::ofstream("/proc/self/clear_refs") << "5";
     const double before = memory_now("VmRSS");
     road.convert();
@@ -199,7 +200,10 @@ void measure_memory(const Workplace& place) {
 void measure(const fs::path& folder, int rows) {
     const Workplace place(folder);
     write_sample_table(place.input(), rows, Cells::as_in_life);
-    measure_time(place, rows);
+    measure_time(place, rows, Under::module);
+    write_sample_configuration(place.home(), result_columns);
+    std::printf("  under a configuration of %d characteristics:\n", result_columns);
+    measure_time(place, rows, Under::configuration);
     measure_growth(place, rows);
     measure_memory(place);
     write_sample_table(place.input(), rows, Cells::plain);

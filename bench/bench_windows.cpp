@@ -1,5 +1,5 @@
-// What the windows take: the table from the press of View to the screen, a page of it scrolled, and
-// the program's first window.
+// What the windows take: the table from the press of View to the screen, a page of it scrolled, a
+// configuration from the click in the list to the screen, and the program's first window.
 //
 //   bench_windows FOLDER [ROWS [PLAYER]]
 //
@@ -25,6 +25,7 @@
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
 #include "road.h"
+#include "sample_configuration.h"
 #include "sample_table.h"
 
 namespace brooklander::bench {
@@ -111,6 +112,30 @@ void measure_table(const fs::path& home, int rows) {
     std::fflush(stdout);
 }
 
+void measure_configuration(const fs::path& home) {
+    constexpr int characteristics = 6500;
+    write_sample_table(home / "data/table.txt", 1, Cells::plain);
+    write_sample_configuration(home, characteristics);
+    Figures times{};
+    for (double& time : times) {
+        Road road(home);
+        desktop::Windows windows(road.screens(), desktop::lay_out);
+        road.up_to_view();
+        road.view();
+        road.up_to_configuration();
+        windows.settle();
+        QApplication::processEvents();
+        time = milliseconds_of([&] {
+            windows.act([&road] { road.select_configuration(); });
+            windows.window_of(road.screens().frmPreferences)->repaint();
+            QApplication::processEvents();
+        });
+    }
+    std::printf("a configuration of %d characteristics, from the click to the screen %7.1f ms\n",
+                characteristics, median(times));
+    std::fflush(stdout);
+}
+
 void measure_first_window(const fs::path& home, const std::string& player) {
     const fs::path scenario = home / "first.scn";
     std::ofstream(scenario) << "make c:\\brooklander\nstart\nexpect frmStart seen\n";
@@ -140,6 +165,7 @@ int run(int argc, char** argv) {
     const int rows = argc > 2 ? std::atoi(argv[2]) : 650000;
     write_sample_table(home / "data/table.txt", rows, Cells::as_in_life);
     measure_table(home, rows);
+    measure_configuration(home);
     if (argc > 3) measure_first_window(home, argv[3]);
     fs::remove_all(home);
     return 0;

@@ -22,10 +22,25 @@ void Road::up_to_view() {
     select(start.lstImportFileBox, "table.txt");
 }
 
-void Road::up_to_convert() {
+void Road::up_to_configuration() {
+    screens().frmImportFileDisplay.cmdYes.press();
+    screens().frmPreferences.optUseConfig.choose();
+}
+
+void Road::select_configuration() { select(screens().frmPreferences.filePreferences, "bench.txt"); }
+
+void Road::up_to_convert(Under under) {
     FrmImportFileDisplay& display = screens().frmImportFileDisplay;
-    display.cmdYes.press();
-    screens().frmPreferences.optVox.choose();
+    FrmPreferences& preferences = screens().frmPreferences;
+    if (under == Under::module) {
+        display.cmdYes.press();
+        preferences.optVox.choose();
+    } else {
+        up_to_configuration();
+        select_configuration();
+        preferences.chkYes.turn_over();
+        preferences.cmdConfirm.press();
+    }
     display.cmdSave.press();
     display.txtActivityID.type("LAKE");
     display.cmdActivityContinue.press();
