@@ -39,7 +39,7 @@ struct FrmImport : Screen {
                              hidden};
     Button cmdConfirm{frameUsePreferences, "cmdConfirm", "Continue =>"};
 
-    Button cmdActivityNext{*this, "cmdActivityNext", "Next =>"};
+    Button cmdActivityNext{*this, "cmdActivityNext", "Next =>", disabled};
 
     // What the database knows of a group of characteristics.
     DataSource AdodcSystemHabitat{*this, "AdodcSystemHabitat"};
