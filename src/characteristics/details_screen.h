@@ -13,6 +13,8 @@ struct FrmCharacteristicDetails : Screen {
         MSHFlexUOM.set_column_widths({1000, 2200});
     }
 
+    Label lblFileName{*this, "lblFileName"};
+
     Grid MSFlexDetails{*this, "MSFlexDetails", {.columns = 13}};
 
     // The analytical procedure, in two stages: its source, then its name. lblProcSource repeats

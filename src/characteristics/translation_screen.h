@@ -9,6 +9,8 @@ struct FrmCharacteristics : Screen {
     explicit FrmCharacteristics(Desk& desk)
         : Screen(desk, "frmCharacteristics", "Characteristics Translation") {}
 
+    Label lblFile{*this, "lblFile"};
+
     List lstCharacteristics{*this, "lstCharacteristics"};
 
     // Column 0 the file's names, column 1 their translations.
