@@ -7,7 +7,11 @@ namespace brooklander {
 
 struct FrmPreferencesSettings : Screen {
     explicit FrmPreferencesSettings(Desk& desk)
-        : Screen(desk, "frmPreferencesSettings", "Configuration File Settings") {}
+        : Screen(desk, "frmPreferencesSettings", "Configuration File Settings") {
+        AdodcOrganization.bind(MSHFlexOrganization);
+        AdodcTrip.bind(MSHFlexTrip, bound::trips);
+        AdodcStations.bind(MSHFlexStations);
+    }
 
     MenuEntry mnuExit{*this, "mnuExit", "Exit"};
     MenuEntry mnuHelp{*this, "mnuHelp", "Help"};

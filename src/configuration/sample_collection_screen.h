@@ -9,6 +9,9 @@ struct FrmPreferencesSamples : Screen {
     explicit FrmPreferencesSamples(Desk& desk)
         : Screen(desk, "frmPreferencesSamples",
                  "Setting Configuration File Sample Collection Procedures") {
+        AdodcSampleCollection.bind(MSHFlexSampleCollection, bound::sample_procedures);
+        AdodcGear.bind(MSHFlexGear);
+        AdodcGearConfiguration.bind(MSHFlexGearConfiguration, bound::gear_configurations);
         MSHFlexGear.set_column_widths({1300, 3300, 3500});
     }
 

@@ -7,7 +7,11 @@ namespace brooklander {
 
 struct FrmPreferencesSampleOption : Screen {
     explicit FrmPreferencesSampleOption(Desk& desk)
-        : Screen(desk, "frmPreferencesSampleOption", "Sample Options For Configuration File") {}
+        : Screen(desk, "frmPreferencesSampleOption", "Sample Options For Configuration File") {
+        AdodcProjects.bind(MSHFlexProjects, bound::projects);
+        AdodcPerson.bind(MSHFlexPerson, bound::persons);
+        AdodcSampleTransportation.bind(MSHFlexSampleTransportation, bound::sample_transports);
+    }
 
     MenuEntry mnuExit{*this, "mnuExit", "Exit"};
 

@@ -1,12 +1,18 @@
-// The time zones that an activity can start in.
+// The time zones that an activity's start time can be in.
 #pragma once
+
+#include <string>
+#include <string_view>
 
 #include "screens.h"
 
 namespace brooklander {
 
-// Refills the list: each entry is a code of up to three bytes, padded to three, a blank, and the
-// zone's name.
+// Fills the list of the activity settings. The list is kept nowhere: whoever shows that screen
+// fills it before.
 void fill_time_zones(FrmPreferencesSettings& settings);
+
+// The code of an entry, as a configuration holds it: its first three characters, trimmed.
+std::string time_zone_code(std::string_view entry);
 
 }  // namespace brooklander

@@ -1,9 +1,12 @@
 #include "configuration/wiring.h"
 
+#include "configuration/activity_boxes.h"
+#include "configuration/activity_settings.h"
 #include "configuration/configuration_choice.h"
 #include "configuration/configuration_manager.h"
 #include "configuration/configuration_name.h"
 #include "configuration/configuration_use.h"
+#include "configuration/sample_collection.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -43,8 +46,45 @@ void wire_manager(Screens& screens, Platform& platform) {
     preferences.cmdConfirm.on_click = [&] { cmdConfirm_Click(screens, platform); };
 }
 
+void wire_activity_settings(Screens& screens, Platform& platform) {
+    FrmPreferencesSettings& settings = screens.frmPreferencesSettings;
+    settings.on_load = [&] { load_activity_settings(screens, platform.database); };
+    settings.mnuExit.on_click = [&] { mnuExit_Click(screens, settings); };
+    settings.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
+    settings.MSHFlexOrganization.on_click = [&] {
+        MSHFlexOrganization_Click(screens, platform.database);
+    };
+    for (const ActivityBox box : activity_boxes) {
+        (settings.*box).on_click = [&screens, box] { activity_box_Click(screens, box); };
+    }
+    settings.lstTimeZone.on_click = [&] { lstTimeZone_Click(settings); };
+    settings.cmdSave.on_click = [&] { cmdSave_Click(screens, settings, platform.database); };
+
+    settings.MSHFlexTrip.on_click = [&] { MSHFlexTrip_Click(settings); };
+    settings.cmdPrint.on_click = [&] { cmdPrint_Click(settings, platform.files); };
+    settings.cmdStationCheck.on_click = [&] { cmdStationCheck_Click(settings); };
+}
+
+void wire_sample_collection(Screens& screens, Platform& platform) {
+    FrmPreferencesSamples& samples = screens.frmPreferencesSamples;
+    samples.mnuExit.on_click = [&] { mnuExit_Click(screens, samples); };
+    samples.mnuHelp.on_click = [&] { platform.help.show(workspace::help_file); };
+    samples.MSHFlexSampleCollection.on_click = [&] {
+        MSHFlexSampleCollection_Click(screens, platform.database);
+    };
+    samples.MSHFlexGear.on_click = [&] { MSHFlexGear_Click(screens, platform.database); };
+    samples.MSHFlexGearConfiguration.on_click = [&] { MSHFlexGearConfiguration_Click(samples); };
+    samples.cmdChange.on_click = [&] { cmdChange_Click(samples); };
+    samples.cmdKeep.on_click = [&] { cmdKeep_Click(screens, platform.database); };
+    samples.cmdContinue.on_click = [&] { cmdContinue_Click(screens, platform.database); };
+}
+
 }  // namespace
 
-void wire_configuration(Screens& screens, Platform& platform) { wire_manager(screens, platform); }
+void wire_configuration(Screens& screens, Platform& platform) {
+    wire_manager(screens, platform);
+    wire_activity_settings(screens, platform);
+    wire_sample_collection(screens, platform);
+}
 
 }  // namespace brooklander

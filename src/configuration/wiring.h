@@ -1,4 +1,4 @@
-// Connects the configuration manager to its handlers.
+// Connects the configuration manager and the screens of a configuration to their handlers.
 #pragma once
 
 #include "platform/platform.h"

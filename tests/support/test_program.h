@@ -25,7 +25,7 @@ class WatchedDatabase : public Database {
     }
 
     bool refuses = false;
-    QueryResult answer;
+    QueryResult answer{{"org_id", "name"}, {}};  // every answer has columns
     std::vector<std::string> connect_strings;
     std::vector<Query> queries;
 };
