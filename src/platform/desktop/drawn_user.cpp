@@ -170,8 +170,13 @@ void DrawnUser::click_entry(EntryList& list, int index) const {
 void DrawnUser::click_cell(Grid& grid, GridCell cell) const {
     auto* const widget = static_cast<GridWidget*>(widget_of(windows_, grid));
     widget->bring_into_view(cell);
-    const QRect place = widget->cell_place(cell);
-    if (place.isEmpty() && !grid.on_key && cell.row >= grid.fixed_rows()) {
+    QRect place = widget->cell_place(cell);
+    // All headings do the same, so that another one serves for that of a hidden column.
+    const bool is_heading = cell.row < grid.fixed_rows();
+    for (int column = 0; is_heading && place.isEmpty() && column < grid.columns(); ++column) {
+        place = widget->cell_place({cell.row, column});
+    }
+    if (place.isEmpty() && !grid.on_key && !is_heading) {
         click_by_keyboard(grid, widget, cell);
         return;
     }
