@@ -11,6 +11,10 @@ struct FrmCharacteristicDetails : Screen {
         MSHFlexSource.set_column_widths({1600, 3500});
         MSHFlexProc.set_column_widths({1500, 4000});
         MSHFlexUOM.set_column_widths({1000, 2200});
+        AdodcProcSource.bind(MSHFlexSource);
+        AdodcProc.bind(MSHFlexProc, bound::procedures);
+        AdodcUOM.bind(MSHFlexUOM);
+        AdodcLab.bind(cmbLab, laboratory_code);
     }
 
     Label lblFileName{*this, "lblFileName"};
@@ -58,6 +62,23 @@ struct FrmCharacteristicDetails : Screen {
     Label lblUom{frameUOM, "lblUom"};
     Label lblUOMAll{frameUOM, "lblUOMAll", "Use Selected Unit For All Characteristics =>"};
     Button cmdUOMAll{frameUOM, "cmdUOMAll", "Yes", disabled};
+
+    // The details that are picked from a list.
+    Panel frameOther{*this, "frameOther", "Sample Fraction", hidden};
+    PickList cmbFraction{frameOther, "cmbFraction"};
+    Panel frameStatistic{*this, "frameStatistic", "Statistic Type", hidden};
+    PickList cmbStatistic{frameStatistic, "cmbStatistic"};
+    Panel frameTemperature{*this, "frameTemperature", "Temperature", hidden};
+    PickList cmbTemperature{frameTemperature, "cmbTemperature"};
+    Panel frameDuration{*this, "frameDuration", "Duration", hidden};
+    PickList cmbDuration{frameDuration, "cmbDuration"};
+    Panel frameLab{*this, "frameLab", "Lab", hidden};
+    DataSource AdodcLab{frameLab, "AdodcLab"};
+    PickList cmbLab{frameLab, "cmbLab"};
+
+  private:
+    // Of a laboratory the list shows the code, which fits its column of the characteristics.
+    static constexpr int laboratory_code = 2;
 };
 
 }  // namespace brooklander

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "platform/fatal_failure.h"
-#include "shared/workspace.h"
 
 namespace brooklander {
 namespace {
@@ -151,17 +150,14 @@ std::string configuration_name(const FrmPreferences& preferences) {
     return typed.empty() && !selected.empty() ? selected : typed + ".txt";
 }
 
-void write_configuration(const Screens& screens, Files& files) {
+void write_configuration(const Screens& screens, OutputFile& file) {
     const bool of_the_field = screens.frmPreferencesSettings.chkField.ticked();
-    const auto file = files.create(std::string(workspace::configurations) +
-                                   configuration_name(screens.frmPreferences));
     for (const ConfigurationKey& key : keys) {
         const bool left_out = of_the_field && key.written == Written::of_a_sample;
         if (key.source == nullptr || left_out) continue;
         const std::string value = key.source(screens);
-        if (!value.empty()) file->write(line_of(key.name, value));
+        if (!value.empty()) file.write(line_of(key.name, value));
     }
-    file->close();
 }
 
 }  // namespace brooklander

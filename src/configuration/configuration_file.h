@@ -49,9 +49,9 @@ void read_configuration(std::string_view file_text, const ConfigurationTargets& 
 // or the selected file's as it stands where none is typed. With neither, ".txt".
 std::string configuration_name(const FrmPreferences& preferences);
 
-// Writes the configuration in work to its file, in place of what that held. Without any project a
+// Writes the configuration in work to a file that was opened for it. Without any project a
 // FatalFailure, with the lines before those of the projects in the file: the buttons that lead here
 // wait for a project.
-void write_configuration(const Screens& screens, Files& files);
+void write_configuration(const Screens& screens, OutputFile& file);
 
 }  // namespace brooklander

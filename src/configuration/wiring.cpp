@@ -3,10 +3,12 @@
 #include "configuration/activity_boxes.h"
 #include "configuration/activity_settings.h"
 #include "configuration/configuration_choice.h"
+#include "configuration/configuration_edit.h"
 #include "configuration/configuration_manager.h"
 #include "configuration/configuration_name.h"
 #include "configuration/configuration_use.h"
 #include "configuration/sample_collection.h"
+#include "configuration/sample_options.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -34,6 +36,8 @@ void wire_manager(Screens& screens, Platform& platform) {
 
     preferences.filePreferences.on_click = [&] { filePreferences_Click(screens, platform.files); };
     preferences.cmdClose.on_click = [&] { cmdClose_Click(preferences); };
+    preferences.cmdOpen.on_click = [&] { cmdOpen_Click(screens, platform); };
+    preferences.cmdContinue.on_click = [&] { cmdContinue_Click(screens, preferences); };
     preferences.cmdDelete.on_click = [&] { cmdDelete_Click(preferences); };
     preferences.cmdFileDeleteYes.on_click = [&] {
         cmdFileDeleteYes_Click(preferences, platform.files);
@@ -79,12 +83,30 @@ void wire_sample_collection(Screens& screens, Platform& platform) {
     samples.cmdContinue.on_click = [&] { cmdContinue_Click(screens, platform.database); };
 }
 
+void wire_sample_options(Screens& screens, Platform& platform) {
+    FrmPreferencesSampleOption& options = screens.frmPreferencesSampleOption;
+    options.mnuExit.on_click = [&] { mnuExit_Click(screens, options); };
+    options.chkFeet.on_click = [&] { chkFeet_Click(options); };
+    options.chkMeters.on_click = [&] { chkMeters_Click(options); };
+    options.MSHFlexProjects.on_click = [&] { MSHFlexProjects_Click(options); };
+    options.cmdProjectClear.on_click = [&] { cmdProjectClear_Click(options); };
+    options.cmdProjectTwoClear.on_click = [&] { cmdProjectTwoClear_Click(options); };
+    options.MSHFlexPerson.on_click = [&] { MSHFlexPerson_Click(options); };
+    options.cmdNameDelete.on_click = [&] { options.lblSelectedName.clear_text(); };
+    options.MSHFlexSampleTransportation.on_click = [&] {
+        MSHFlexSampleTransportation_Click(options);
+    };
+    options.cmdSampleTransportClear.on_click = [&] { cmdSampleTransportClear_Click(options); };
+    options.cmdNext.on_click = [&] { cmdNext_Click(screens, platform.files); };
+}
+
 }  // namespace
 
 void wire_configuration(Screens& screens, Platform& platform) {
     wire_manager(screens, platform);
     wire_activity_settings(screens, platform);
     wire_sample_collection(screens, platform);
+    wire_sample_options(screens, platform);
 }
 
 }  // namespace brooklander

@@ -17,6 +17,7 @@ inline constexpr std::string_view converted_files = "c:\\brooklander\\voxoutfile
 inline constexpr std::string_view batch_files = "c:\\brooklander\\batchoutfiles\\";
 inline constexpr std::string_view configurations = "c:\\brooklander\\preferences\\";
 inline constexpr std::string_view characteristics = "c:\\brooklander\\characteristics\\";
+inline constexpr std::string_view notices = "c:\\brooklander\\voxconfiguration\\";
 inline constexpr std::string_view persons = "c:\\brooklander\\person\\";
 inline constexpr std::string_view help_file = "c:\\brooklander\\BROOKLANDER.HLP";
 

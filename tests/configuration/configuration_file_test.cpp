@@ -28,7 +28,8 @@ class ConfigurationFile : public testing::Test {
     }
 
     std::string written(std::string_view name = "new.txt") {
-        write_configuration(screens_, files_);
+        const auto file = files_.create("c:\\brooklander\\preferences\\" + std::string(name));
+        write_configuration(screens_, *file);
         return saved(name);
     }
     std::string saved(std::string_view name) const {

@@ -21,12 +21,14 @@ namespace {
 using scenario::Front;
 using scenario::Unmet;
 
-// Lets everyone in and answers every statement with two rows.
+// Lets everyone in and answers every statement with two rows of as many columns as any of them has.
 class SmallDatabase : public Database {
   public:
     void try_connect(std::string_view /*connect_string*/) override {}
     QueryResult run(const Query& /*query*/) override {
-        return {{"org_id", "name"}, {{"LAKES", "Lake Watch"}, {"RIVERS", "River Watch"}}};
+        return {
+            {"org_id", "name", "name", "number", "type"},
+            {{"LAKES", "L1", "Lake Watch", "1", ""}, {"RIVERS", "R1", "River Watch", "2", "Net"}}};
     }
 };
 
@@ -40,6 +42,15 @@ class Run {
                       "LL-02\t05/05/2021\t\tND\t9.8\r\n");
         folder_.write("data/pond.txt", "Station\tpH\r\n\r\nP-1\t6.9\r\n");
         folder_.write("data/empty.txt", "");
+        folder_.write("brooklander/preferences/lake.txt",
+                      "organization       =LAKES\r\nactivitytype       =Sample\r\n"
+                      "medium             =Water\r\nprojectid          =P1/P2\r\n");
+        folder_.write("brooklander/preferences/new.txt", "");
+        folder_.write("brooklander/characteristics/lake.txt", "pH\r\nOxygen\tdissolved\r\n");
+        for (const char* const list :
+             {"samplefraction.txt", "statistictype.txt", "duration.txt", "temperature.txt"}) {
+            folder_.write(std::filesystem::path("brooklander") / list, "One\r\nTwo\r\n");
+        }
         front_ =
             drawn ? desktop::drawn_front(files_, {}) : std::make_unique<scenario::UndrawnFront>();
         program_ = std::make_unique<Program>(Platform{files_, database_, front_->help()});
@@ -174,22 +185,55 @@ class Walk {
             run->front().type(start.txtOraclePassWord, "secret");
             run->front().click(start.cmdUIDok);
         }
-        const int length = below(4);
+        const int length = below(7);
         for (Run* const run : {undrawn_.get(), drawn_.get()}) go_ahead(*run, length);
     }
 
-    // Some walks begin further down the road of one file: 1 at its table, 2 at its columns, 3
-    // behind its conversion.
+    // Some walks begin further down a road: 1 at a file's table, 2 at its columns, 3 behind its
+    // conversion, 4 at the sample options of a new configuration, 5 at one that is edited, 6 at one
+    // that a file is attached to.
+    static void go_ahead_with_configurations(Run& run, int length) {
+        FrmPreferences& manager = run.screens().frmPreferences;
+        FrmPreferencesSettings& settings = run.screens().frmPreferencesSettings;
+        FrmPreferencesSamples& samples = run.screens().frmPreferencesSamples;
+        Front& front = run.front();
+        front.click(run.screens().frmStart.mnuPreferences);
+        if (length == 5) {
+            front.click(manager.optBrookLanderEdit);
+            front.click_entry(manager.filePreferences, 0);
+            front.click(manager.cmdOpen);
+            return;
+        }
+        front.click(manager.optBrooklanderNew);
+        front.type(manager.txtFileName, "brook");
+        front.click(manager.cmdNewFileSave);
+        front.click_cell(settings.MSHFlexOrganization, {1, 0});
+        front.click(settings.chkSample);
+        front.click(settings.chkAir);
+        front.click(settings.cmdSave);
+        front.click_cell(samples.MSHFlexSampleCollection, {1, 0});
+        front.click(samples.cmdContinue);
+    }
+
     static void go_ahead(Run& run, int length) {
         FrmStart& start = run.screens().frmStart;
         FrmImportFileDisplay& display = run.screens().frmImportFileDisplay;
         Front& front = run.front();
         if (length == 0) return;
+        if (length == 4 || length == 5) {
+            go_ahead_with_configurations(run, length);
+            return;
+        }
         front.click(start.mnuImport);
         front.click_entry(start.Dir1, start.Dir1.find("data").value());
         front.click_entry(start.lstImportFileBox, start.lstImportFileBox.find("lake.txt").value());
         front.click(start.cmdView);
         if (length == 1) return;
+        if (length == 6) {
+            front.click(display.cmdYes);
+            front.click(run.screens().frmPreferences.optUseConfig);
+            return;
+        }
         for (Field* const field :
              std::initializer_list<Field*>{&display.cmdYes, &run.screens().frmPreferences.optVox,
                                            &display.cmdSave, &display.cmdActivitySkip}) {
