@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shared/keldar.h"
 #include "shared/workspace.h"
+#include "sweeps/keldar.h"
 
 namespace brooklander {
 
@@ -11,8 +11,7 @@ void prepare_details(Screens& screens, Platform& platform, std::string_view orga
     FrmCharacteristicDetails& details = screens.frmCharacteristicDetails;
     for (DataSource* const source :
          {&details.AdodcProc, &details.AdodcUOM, &details.AdodcProcSource, &details.AdodcLab}) {
-        connect_to_keldar(*source, screens.frmStart.txtOracleID,
-                          screens.frmStart.txtOraclePassWord);
+        connect_to_keldar(*source, screens.frmStart);
     }
     details.AdodcUOM.set_record_source(
         "Select Distinct short_form_name, description_text From tsruom");

@@ -5,9 +5,9 @@
 
 #include "configuration/database_lists.h"
 #include "configuration/time_zones.h"
-#include "shared/keldar.h"
 #include "shared/text.h"
 #include "shared/workspace.h"
+#include "sweeps/keldar.h"
 
 namespace brooklander {
 namespace {
@@ -91,9 +91,7 @@ void go_to_sample_options(Screens& screens, Database& database) {
 }  // namespace
 
 void load_activity_settings(Screens& screens, Database& database) {
-    const FrmStart& start = screens.frmStart;
-    connect_to_keldar(screens.frmPreferencesSettings.AdodcStations, start.txtOracleID,
-                      start.txtOraclePassWord);
+    connect_to_keldar(screens.frmPreferencesSettings.AdodcStations, screens.frmStart);
     list_organizations(screens, database);
 }
 

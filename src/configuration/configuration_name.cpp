@@ -4,9 +4,9 @@
 
 #include "configuration/configuration_file.h"
 #include "configuration/time_zones.h"
-#include "shared/keldar.h"
 #include "shared/text.h"
 #include "shared/workspace.h"
+#include "sweeps/keldar.h"
 
 namespace brooklander {
 namespace {
@@ -92,10 +92,8 @@ void cmdYes_Click(Screens& screens, Platform& platform) {
     preferences.filePreferences.refresh();
 
     // Nothing comes of the rows: the step tries whether the database can be reached.
-    const TextBox& user = screens.frmStart.txtOracleID;
-    const TextBox& password = screens.frmStart.txtOraclePassWord;
-    platform.database.try_connect(keldar_connect_string(user, password));
-    platform.database.run(keldar_query(user, password, "SELECT org_id FROM KELDAR1.TSMORGAN"));
+    platform.database.try_connect(keldar_connect_string(screens.frmStart));
+    platform.database.run(keldar_query(screens.frmStart, "SELECT org_id FROM KELDAR1.TSMORGAN"));
 
     lead_to_settings(screens);
     screens.frmPreferencesSettings.lblFileName.set_text(preferences.txtFileName.text());

@@ -2,9 +2,9 @@
 
 #include "configuration/group_statements.h"
 #include "platform/fatal_failure.h"
-#include "shared/keldar.h"
 #include "shared/text.h"
 #include "shared/workspace.h"
+#include "sweeps/keldar.h"
 
 namespace brooklander {
 namespace {
@@ -90,8 +90,7 @@ void list_group(Screens& screens, Database& database) {
     FrmImport& values = screens.frmImport;
     const std::string group = screens.frmPreferencesCharacteristics.lblChar.text();
     const GroupQuery query = group_query(values, group, trim(preferences.lblOrganization.text()));
-    connect_to_keldar(query.source, screens.frmStart.txtOracleID,
-                      screens.frmStart.txtOraclePassWord);
+    connect_to_keldar(query.source, screens.frmStart);
     query.source.set_record_source(query.statement);
     query.source.refresh(database);
 

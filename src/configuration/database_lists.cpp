@@ -3,8 +3,8 @@
 #include <initializer_list>
 
 #include "platform/code_page.h"
-#include "shared/keldar.h"
 #include "shared/text.h"
+#include "sweeps/keldar.h"
 
 namespace brooklander {
 namespace {
@@ -16,7 +16,7 @@ std::string joined(std::initializer_list<std::string_view> parts) {
 }
 
 void refresh(DataSource& source, Screens& screens, std::string_view statement, Database& database) {
-    connect_to_keldar(source, screens.frmStart.txtOracleID, screens.frmStart.txtOraclePassWord);
+    connect_to_keldar(source, screens.frmStart);
     source.set_record_source(statement);
     source.refresh(database);
 }

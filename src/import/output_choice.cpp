@@ -1,8 +1,8 @@
 #include "import/output_choice.h"
 
-#include "configuration/reset_screens.h"
 #include "import/column_assignment.h"
 #include "shared/workspace.h"
+#include "sweeps/reset_screens.h"
 
 namespace brooklander {
 namespace {

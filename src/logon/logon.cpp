@@ -1,8 +1,8 @@
 #include "logon/logon.h"
 
 #include "platform/fatal_failure.h"
-#include "shared/keldar.h"
 #include "shared/workspace.h"
+#include "sweeps/keldar.h"
 
 namespace brooklander {
 
@@ -21,7 +21,7 @@ void cmdUIDok_Click(FrmStart& start, Database& database) {
     start.set_pointer(Pointer::busy);
     start.frameOracleLogon.hide();
     try {
-        database.try_connect(keldar_connect_string(start.txtOracleID, start.txtOraclePassWord));
+        database.try_connect(keldar_connect_string(start));
         start.set_pointer(Pointer::normal);
     } catch (const FatalFailure&) {
         start.set_pointer(Pointer::normal);

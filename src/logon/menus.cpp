@@ -1,6 +1,6 @@
 #include "logon/menus.h"
 
-#include "configuration/reset_screens.h"
+#include "sweeps/reset_screens.h"
 
 namespace brooklander {
 namespace {

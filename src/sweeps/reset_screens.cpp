@@ -1,4 +1,4 @@
-#include "configuration/reset_screens.h"
+#include "sweeps/reset_screens.h"
 
 #include <initializer_list>
 

@@ -1,0 +1,24 @@
+#include "sweeps/keldar.h"
+
+namespace brooklander {
+namespace {
+
+constexpr std::string_view connection = "DSN=keldar";
+
+}  // namespace
+
+void connect_to_keldar(DataSource& source, const FrmStart& start) {
+    source.connect(connection, start.txtOracleID.text(), start.txtOraclePassWord.text());
+}
+
+std::string keldar_connect_string(const FrmStart& start) {
+    return "ODBC;DATABASE=KELDAR2;UID=" + start.txtOracleID.text() + ";" +
+           "PWD=" + start.txtOraclePassWord.text() + ";DSN=keldar";
+}
+
+Query keldar_query(const FrmStart& start, std::string_view statement) {
+    return {std::string(connection), start.txtOracleID.text(), start.txtOraclePassWord.text(),
+            std::string(statement)};
+}
+
+}  // namespace brooklander
