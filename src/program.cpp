@@ -1,5 +1,6 @@
 #include "program.h"
 
+#include "characteristics/wiring.h"
 #include "configuration/wiring.h"
 #include "conversion/wiring.h"
 #include "import/wiring.h"
@@ -13,6 +14,7 @@ Program::Program(Platform platform) : platform_(platform), screens_(platform.fil
     wire_import(screens_, platform_);
     wire_conversion(screens_, platform_);
     wire_configuration(screens_, platform_);
+    wire_characteristics(screens_, platform_);
     wire_loggers(screens_);
 }
 

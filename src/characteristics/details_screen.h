@@ -17,10 +17,26 @@ struct FrmCharacteristicDetails : Screen {
         AdodcLab.bind(cmbLab, laboratory_code);
     }
 
-    Label lblFileName{*this, "lblFileName"};
-    Button cmdSave{*this, "cmdSave", "Save", disabled};
+    MenuEntry mnuExit{*this, "mnuExit", "Exit"};
+    MenuEntry mnuHelp{*this, "mnuHelp", "Help"};
 
-    Grid MSFlexDetails{*this, "MSFlexDetails", {.columns = 13}};
+    Label lblFileNameCaption{*this, "lblFileNameCaption", "Configuration File Name:"};
+    Label lblFileName{*this, "lblFileName"};
+
+    // Boxes that are used like options, with the further state that none is ticked. Each opens the
+    // panel of its detail.
+    Panel frameChoices{*this, "frameChoices", "Characteristic Detail Choices"};
+    Label lblRequired{frameChoices, "lblRequired", "Required:"};
+    TickBox chkProc{frameChoices, "chkProc", "Analytical Procedure"};
+    TickBox chkUOM{frameChoices, "chkUOM", "Units Of Measure"};
+    TickBox chkFraction{frameChoices, "chkFraction", "Sample Fraction"};
+    Label lblOptional{frameChoices, "lblOptional", "Optional:"};
+    TickBox chkValue{frameChoices, "chkValue", "Actual Value"};
+    TickBox chkStat{frameChoices, "chkStat", "Statistic Type"};
+    TickBox chkWeight{frameChoices, "chkWeight", "Weight Basis"};
+    TickBox chkTemperature{frameChoices, "chkTemperature", "Temperature"};
+    TickBox chkDuration{frameChoices, "chkDuration", "Duration"};
+    TickBox chkLab{frameChoices, "chkLab", "Lab"};
 
     // The analytical procedure, in two stages: its source, then its name. lblProcSource repeats
     // the chosen source beside the names.
@@ -63,18 +79,79 @@ struct FrmCharacteristicDetails : Screen {
     Label lblUOMAll{frameUOM, "lblUOMAll", "Use Selected Unit For All Characteristics =>"};
     Button cmdUOMAll{frameUOM, "cmdUOMAll", "Yes", disabled};
 
-    // The details that are picked from a list.
+    // The details that are picked from a list. The fraction's label is used by no step.
     Panel frameOther{*this, "frameOther", "Sample Fraction", hidden};
     PickList cmbFraction{frameOther, "cmbFraction"};
+    Label lblFraction{frameOther, "lblFraction", {}, hidden};
+    Label lblFractionAll{frameOther, "lblFractionAll", "Use Fraction Selection For All =>"};
+    Button cmdFractionAll{frameOther, "cmdFractionAll", "Yes", disabled};
+
+    Panel frameValueType{*this, "frameValueType", "Value Type", hidden};
+    Option optActual{frameValueType, "optActual", "Actual"};
+    Option optEstimated{frameValueType, "optEstimated", "Estimated"};
+    Option optCalculated{frameValueType, "optCalculated", "Calculated"};
+    Label lblValue{frameValueType, "lblValue", "Actual"};
+    Label lblValueAll{frameValueType, "lblValueAll",
+                      "Use Selected Value Type For All Characteristics ?"};
+    Button cmdValueYes{frameValueType, "cmdValueYes", "Yes"};
+
     Panel frameStatistic{*this, "frameStatistic", "Statistic Type", hidden};
     PickList cmbStatistic{frameStatistic, "cmbStatistic"};
+    Label lblStatistic{frameStatistic, "lblStatistic"};
+    Label lblStatisticAll{frameStatistic, "lblStatisticAll",
+                          "Use Selected Statistical Type For All Characteristics ?"};
+    Button cmdStatYes{frameStatistic, "cmdStatYes", "Yes", disabled};
+
+    Panel frameWeight{*this, "frameWeight", "Weight Basis", hidden};
+    Option optNone{frameWeight, "optNone", "None"};
+    Option optWet{frameWeight, "optWet", "Wet"};
+    Option optDry{frameWeight, "optDry", "Dry"};
+    Option optAshFree{frameWeight, "optAshFree", "Ash-free Dry"};
+    Label lblWeight{frameWeight, "lblWeight", "None"};
+    Label lblWeightAll{frameWeight, "lblWeightAll",
+                       "Apply Selected Weight Basis to All Characteristics ?"};
+    Button cmdWeightYes{frameWeight, "cmdWeightYes", "Yes"};
+
     Panel frameTemperature{*this, "frameTemperature", "Temperature", hidden};
     PickList cmbTemperature{frameTemperature, "cmbTemperature"};
+    Label lblTemperature{frameTemperature, "lblTemperature"};
+    Label lblTemperatureAll{frameTemperature, "lblTemperatureAll",
+                            "Apply Selected Temperature To All Characteristics ?"};
+    Button cmdTemperatureYes{frameTemperature, "cmdTemperatureYes", "Yes", disabled};
+
     Panel frameDuration{*this, "frameDuration", "Duration", hidden};
     PickList cmbDuration{frameDuration, "cmbDuration"};
+    Label lblDuration{frameDuration, "lblDuration"};
+    Label lblDurationAll{frameDuration, "lblDurationAll",
+                         "Apply Selected Duration To All Characteristics?"};
+    Button cmdDurationYes{frameDuration, "cmdDurationYes", "Yes", disabled};
+
     Panel frameLab{*this, "frameLab", "Lab", hidden};
     DataSource AdodcLab{frameLab, "AdodcLab"};
     PickList cmbLab{frameLab, "cmbLab"};
+    Label lblLab{frameLab, "lblLab"};
+    Label lblLabAll{frameLab, "lblLabAll", "Apply Selected Lab To All Characteristics ?"};
+    Button cmdLab{frameLab, "cmdLab", "Yes", disabled};
+
+    Label lblTyping{*this, "lblTyping", "Type Detection Limit Values As Needed"};
+    Grid MSFlexDetails{*this, "MSFlexDetails", {.columns = 13}};
+
+    Button cmdSave{*this, "cmdSave", "Save", disabled};
+
+    Panel frameSaveConfirm{*this, "frameSaveConfirm", "Confirm Save", hidden};
+    Label lblSaveConfirm{frameSaveConfirm, "lblSaveConfirm", "Confirm File Save:"};
+    Button cmdYes{frameSaveConfirm, "cmdYes", "Yes"};
+    Button cmdNo{frameSaveConfirm, "cmdNo", "No"};
+
+    Panel frameError{*this, "frameError",
+                     "At Least One Characteristic Has Not Been Translated To An Equivalent KELDAR "
+                     "Characteristic.  Click GO BACK To Return To Characteristic Translation "
+                     "Screen And Complete Translations.",
+                     hidden};
+    Button cmdClose{frameError, "cmdClose", "Close"};
+
+    // Read by no step.
+    TickBox chkBack{*this, "chkBack", {}, hidden};
 
   private:
     // Of a laboratory the list shows the code, which fits its column of the characteristics.

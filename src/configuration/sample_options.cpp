@@ -7,6 +7,7 @@
 #include "characteristics/source_selection.h"
 #include "configuration/configuration_file.h"
 #include "configuration/import_notice.h"
+#include "platform/fatal_failure.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -49,18 +50,26 @@ void write_files(Screens& screens, Files& files) {
     notice->close();
 }
 
-// One fixed row each, and from row 1 on a row for each line of the file.
+void add_names(Grid& names, std::string_view file_text) {
+    LineReader lines(file_text);
+    for (int count = 0; !lines.at_end() && count < most_shown_lines; ++count) {
+        names.add_row(display_value(lines.next(), defaults_field::name));
+    }
+}
+
+// From row 1 on a row for each line of the file. Without one both grids keep their one row, as
+// wherever characteristics are read.
 void take_up_characteristics(Screens& screens, const Files& files) {
     Grid& names = screens.frmCharacteristics.MSFlexChar;
     Grid& details = screens.frmCharacteristicDetails.MSFlexDetails;
     for (Grid* const grid : {&names, &details}) grid->set_rows(1);
-    const FileText text = files.read(std::string(workspace::characteristics) +
-                                     screens.frmPreferences.lblSelectedFile.text());
-    LineReader lines(text.view());
-    for (int count = 0; !lines.at_end() && count < most_shown_lines; ++count) {
-        names.add_row(display_value(lines.next(), defaults_field::name));
+    try {
+        const FileText text = files.read(std::string(workspace::characteristics) +
+                                         screens.frmPreferences.lblSelectedFile.text());
+        add_names(names, text.view());
+        add_defaults_rows(details, text.view(), most_shown_lines);
+    } catch (const FatalFailure&) {
     }
-    add_defaults_rows(details, text.view(), most_shown_lines);
     set_defaults_headings(details);
 }
 

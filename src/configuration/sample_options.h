@@ -22,8 +22,7 @@ void cmdSampleTransportClear_Click(FrmPreferencesSampleOption& options);
 
 // Writes the configuration file and its notice, and leads on: to the characteristics of the file
 // for one that is edited, to the choice of a sample file for a new one. A FatalFailure when one of
-// the files cannot be written, which leaves the configuration as far as it was written; and when
-// the characteristics of an edited configuration cannot be read, with both files written.
+// the files cannot be written, which leaves the configuration as far as it was written.
 void cmdNext_Click(Screens& screens, Files& files);
 
 // Back to the screen that led here.

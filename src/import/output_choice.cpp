@@ -19,6 +19,19 @@ void forget_existing_file(FrmImportFileDisplay& display) {
 
 }  // namespace
 
+void ask_what_file_is_for(Screens& screens) {
+    FrmImportFileDisplay& display = screens.frmImportFileDisplay;
+    const bool for_characteristics = screens.frmPreferencesSampleOption.chkChar.ticked();
+    if (!for_characteristics || display.optAnotherFile.on()) {
+        display.frameImportConfirm.show();
+        display.frameChar.hide();
+    }
+    if (for_characteristics) {
+        display.frameImportConfirm.hide();
+        display.frameChar.show();
+    }
+}
+
 void cmdYes_Click(Screens& screens) {
     FrmImportFileDisplay& display = screens.frmImportFileDisplay;
     display.chkYes.set_ticked(true);

@@ -6,6 +6,10 @@
 
 namespace brooklander {
 
+// Asks, of a file that is about to be viewed, whether it is to be imported or, while characteristics
+// are wanted, whether they are to be set up from it. The second question wins.
+void ask_what_file_is_for(Screens& screens);
+
 // "Import This File?": Yes leads to the choice of a configuration and names the output file after
 // the input file; No goes back to the start screen.
 void cmdYes_Click(Screens& screens);

@@ -2,6 +2,7 @@
 
 #include "import/column_assignment.h"
 #include "import/import_table.h"
+#include "import/output_choice.h"
 #include "platform/code_page.h"
 
 namespace brooklander {
@@ -102,15 +103,7 @@ void cmdView_Click(Screens& screens, const Files& files) {
     display.cmdSave.disable();
     display.frameImportedFile.show();
 
-    const bool for_characteristics = screens.frmPreferencesSampleOption.chkChar.ticked();
-    if (!for_characteristics || display.optAnotherFile.on()) {
-        display.frameImportConfirm.show();
-        display.frameChar.hide();
-    }
-    if (for_characteristics) {
-        display.frameImportConfirm.hide();
-        display.frameChar.show();
-    }
+    ask_what_file_is_for(screens);
     const std::string path = start.lstImportFileBox.path() + "\\" + start.lblSelectedFile.text();
     display.lblSelectedFile.set_text(path);
     load_import_table(screens, files, path);

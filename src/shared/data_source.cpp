@@ -50,11 +50,20 @@ void DataSource::bind(PickList& pick_list, int column) {
     pick_column_ = column;
 }
 
+void DataSource::bind(PickList& pick_list, int column, int followed_column) {
+    bind(pick_list, column);
+    followed_column_ = followed_column;
+}
+
 void DataSource::fill_pick_list(const QueryResult& result) {
     std::vector<std::string> entries;
     entries.reserve(result.rows.size());
     for (const auto& values : result.rows) entries.push_back(value_at(values, pick_column_));
     pick_list_->set_entries(std::move(entries));
+    if (!followed_column_) return;
+    const std::string followed =
+        result.rows.empty() ? std::string() : value_at(result.rows.front(), *followed_column_);
+    pick_list_->set_text(pick_list_->find(followed) ? followed : std::string());
 }
 
 void DataSource::fill_grid(const QueryResult& result) {

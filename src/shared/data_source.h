@@ -1,6 +1,7 @@
 // Data sources: where a screen's grids take rows of the database from.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "platform/database.h"
@@ -23,6 +24,10 @@ class DataSource : public PlacedField {
     // from 0.
     void bind(PickList& pick_list, int column);
 
+    // The same; and the list's own text follows another column: after a refresh it is what that
+    // column of the first row says, if an entry says exactly that, and empty otherwise.
+    void bind(PickList& pick_list, int column, int followed_column);
+
     // The four values, in the order in which screens give them.
     void connect(std::string_view connection, std::string_view user, std::string_view password);
     void set_record_source(std::string_view statement) { set_text(statement); }
@@ -41,6 +46,7 @@ class DataSource : public PlacedField {
     BoundColumns columns_;
     PickList* pick_list_ = nullptr;
     int pick_column_ = 0;
+    std::optional<int> followed_column_;
 };
 
 }  // namespace brooklander

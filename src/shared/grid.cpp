@@ -148,10 +148,7 @@ void Grid::click_cell(GridCell cell) {
 
 void Grid::press_key(Key key) {
     set_focus();
-    if (on_key) {
-        on_key(key);
-        return;
-    }
+    if (on_key && on_key(key)) return;
     switch (key.name) {
         case Key::Name::up: move_current(-1, 0); break;
         case Key::Name::down: move_current(1, 0); break;

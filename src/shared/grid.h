@@ -52,8 +52,10 @@ class Grid : public PlacedField {
           fixed_rows_(shape.fixed_rows),
           fixed_columns_(shape.fixed_columns) {}
 
-    std::function<void()> on_click;   // the clicked cell is the current one
-    std::function<void(Key)> on_key;  // in grids that are typed into; then keys do nothing else
+    std::function<void()> on_click;  // the clicked cell is the current one
+    // In grids that are typed into: what a key does there. False for a key that does what it does
+    // in other grids.
+    std::function<bool(Key)> on_key;
 
     // Reading. A cell outside the grid reads empty; texts live until the grid changes.
     int rows() const { return cells_.rows(); }
@@ -110,8 +112,8 @@ class Grid : public PlacedField {
     // A user's click on a cell that is there. In a fixed row it does nothing.
     void click_cell(GridCell cell);
 
-    // A user's key at the current cell. Without an on_key, arrows move the current cell among the
-    // rows and columns that are not fixed, and Enter or the space bar clicks it.
+    // A user's key at the current cell. Unless on_key takes it, arrows move the current cell among
+    // the rows and columns that are not fixed, and Enter or the space bar clicks it.
     void press_key(Key key);
 
   private:

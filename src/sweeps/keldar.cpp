@@ -1,5 +1,7 @@
 #include "sweeps/keldar.h"
 
+#include "shared/text.h"
+
 namespace brooklander {
 namespace {
 
@@ -9,6 +11,11 @@ constexpr std::string_view connection = "DSN=keldar";
 
 void connect_to_keldar(DataSource& source, const FrmStart& start) {
     source.connect(connection, start.txtOracleID.text(), start.txtOraclePassWord.text());
+}
+
+void connect_to_keldar_trimmed(DataSource& source, const FrmStart& start) {
+    source.connect(connection, trim(start.txtOracleID.text()),
+                   trim(start.txtOraclePassWord.text()));
 }
 
 std::string keldar_connect_string(const FrmStart& start) {

@@ -13,6 +13,9 @@ namespace brooklander {
 // Gives a data source its connection `DSN=keldar`, its user and its password.
 void connect_to_keldar(DataSource& source, const FrmStart& start);
 
+// The same, without blanks around the two: one search has always given them so.
+void connect_to_keldar_trimmed(DataSource& source, const FrmStart& start);
+
 // The connect string of the steps that only try whether the database lets the user in.
 std::string keldar_connect_string(const FrmStart& start);
 

@@ -168,6 +168,7 @@ TEST_F(DrawnGrid, AGridThatIsTypedIntoGetsEveryKey) {
     std::string typed_keys;
     grid().on_key = [&](Key key) {
         typed_keys += key.name == Key::Name::character ? std::string(1, key.character) : "<>";
+        return true;
     };
     widget_->setFocus();
     QTest::keyClicks(widget_, "x ");
@@ -175,6 +176,17 @@ TEST_F(DrawnGrid, AGridThatIsTypedIntoGetsEveryKey) {
         QTest::keyClick(widget_, key);
     }
     EXPECT_EQ(typed_keys, "x <><><><>");
+}
+
+TEST_F(DrawnGrid, AGridThatIsTypedIntoIsClickedWithControl) {
+    fill(3);
+    int clicks = 0;
+    grid().on_click = [&] { ++clicks; };
+    grid().on_key = [](Key /*key*/) { return true; };
+    widget_->setFocus();
+    QTest::keyClick(widget_, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(widget_, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(DrawnGrid, TabLeavesTheGrid) {

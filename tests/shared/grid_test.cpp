@@ -115,13 +115,21 @@ TEST_F(GridRules, EnterAndTheSpaceBarClickTheCurrentCell) {
     EXPECT_EQ(runs_, 2);
 }
 
-TEST_F(GridRules, AGridThatIsTypedIntoGetsAllKeysItself) {
+TEST_F(GridRules, AGridThatIsTypedIntoGetsAllKeysAndLeavesSomeToTheGrid) {
     std::string typed;
-    grid_.on_key = [&](Key key) { typed += key.name == Key::Name::up ? '^' : key.character; };
-    grid_.press_key(Key::of('x'));
-    grid_.press_key({Key::Name::up});
-    EXPECT_EQ(typed, "x^");
+    grid_.on_click = [this] { ++runs_; };
+    grid_.on_key = [&](Key key) {
+        typed += key.name == Key::Name::character ? key.character : '^';
+        return key.name != Key::Name::right;
+    };
+    grid_.press_key(Key::of(' '));
+    grid_.press_key({Key::Name::enter});
+    grid_.press_key({Key::Name::down});
     EXPECT_EQ(grid_.current(), (GridCell{0, 0}));
+    grid_.press_key({Key::Name::right});
+    EXPECT_EQ(typed, " ^^^");
+    EXPECT_EQ(grid_.current(), (GridCell{0, 1}));
+    EXPECT_EQ(runs_, 0);
 }
 
 TEST_F(GridRules, ArrowsStayOutOfFixedColumns) {

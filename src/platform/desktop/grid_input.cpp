@@ -106,10 +106,16 @@ void GridWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
-    const bool is_typed_into = static_cast<bool>(grid_.on_key);
     const bool with_control = (event->modifiers() & Qt::ControlModifier) != 0;
+    // Where Enter and the space bar are typed, they click the cell together with Ctrl.
+    const bool is_click = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                          event->key() == Qt::Key_Space;
+    if (grid_.on_key && with_control && is_click && data_rows() > 0 && on_click) {
+        on_click(current_);
+        return;
+    }
     GridCell target = current_;
-    if (!is_typed_into && data_rows() > 0) {
+    if (data_rows() > 0) {
         switch (event->key()) {
             case Qt::Key_PageUp: target.row -= rows_in_view(); break;
             case Qt::Key_PageDown: target.row += rows_in_view(); break;
