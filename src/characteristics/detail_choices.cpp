@@ -169,6 +169,7 @@ void apply_to_all(Details& details, const DetailChoice& choice) {
 bool type_into_details(Details& details, Key key) {
     Grid& grid = details.MSFlexDetails;
     const GridCell cell = grid.current();
+    if (cell.row < grid.fixed_rows()) return false;
     std::string text(grid.current_text());
     switch (key.name) {
         case Key::Name::erase: empty_cell(grid); return true;
