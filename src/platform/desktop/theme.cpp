@@ -26,6 +26,7 @@ QMenu::item { padding: 6px 24px 6px 16px; border-radius: 4px; }
 QMenu::item:selected { background: %accent; color: %accentText; }
 QMenu::item:disabled { color: %faint; background: transparent; }
 QFrame[card="true"] { background: %card; border: 1px solid %line; border-radius: 6px; }
+QFrame[rule="true"] { background: %line; }
 QLabel { background: transparent; color: %text; }
 QLabel[title="true"] { color: %title; }
 QLabel[quiet="true"] { color: %quiet; }
