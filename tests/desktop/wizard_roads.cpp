@@ -92,9 +92,12 @@ void choose_configuration(DrawnProgram& drawn) {
 }
 
 void edit(DrawnProgram& drawn) {
-    drawn.screens().frmPreferences.lblSelectedFile.set_text("meres in the north, monthly.txt");
     choose_water(drawn);
-    drawn.act([&] { settings_of(drawn).chkAir.turn_over(); });
+    drawn.act([&] {
+        drawn.screens().frmPreferences.lblSelectedFile.set_text("meres in the north, monthly.txt");
+        samples_of(drawn).lblSampleCollectionProcedureID.set_text("PROFILE");
+        settings_of(drawn).chkAir.turn_over();
+    });
     drawn.act([&] { settings_of(drawn).cmdSave.press(); });
 }
 
@@ -168,6 +171,14 @@ std::vector<WizardRoad> wizard_roads() {
          [](DrawnProgram& drawn) {
              choose_water(drawn);
              drawn.act([&] { settings_of(drawn).frameTrip.show(); });
+         }},
+        {"settings 7 stations",
+         [](DrawnProgram& drawn) {
+             choose_water(drawn);
+             drawn.act([&] {
+                 settings_of(drawn).frameStations.show();
+                 settings_of(drawn).lstStations.add("MERE-1");
+             });
          }},
         {"samples 1 procedures", go_to_samples},
         {"samples 2 procedure", choose_procedure},

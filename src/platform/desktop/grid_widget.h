@@ -57,7 +57,7 @@ class GridWidget : public QAbstractScrollArea {
     // As QWidget says; the whole grid seldom fits. One among several lists takes what room there
     // is.
     QSize sizeHint() const override { return shares_width_ ? minimumSizeHint() : QSize(480, 240); }
-    QSize minimumSizeHint() const override { return {200, 120}; }
+    QSize minimumSizeHint() const override { return {200, shares_width_ ? 96 : 120}; }
 
     // Where a cell is in the viewport; a fixed row lies in the headings. Empty when it is not
     // shown.

@@ -51,8 +51,8 @@ Card* organization_card(Settings& settings, Draw& draw) {
 
 Card* trip_options_card(Settings& settings, Draw& draw) {
     Card* const card = draw.card(settings.frameTripOptions);
-    card->content()->addWidget(draw.option(settings.optVOXTrip, 'L'));
-    card->content()->addWidget(draw.option(settings.optKeldarTrip, 'T'));
+    QRadioButton* const by_module = draw.option(settings.optVOXTrip, 'X');
+    card->content()->addLayout(row({by_module, draw.option(settings.optKeldarTrip, 'T')}));
     Card* const message = draw.section(settings.frameTripMessage);
     message->title()->setFont(font_larger_by(0));
     card->content()->addWidget(message);
@@ -84,6 +84,7 @@ Card* stations_card(Settings& settings, Draw& draw) {
                      2);
     ListWidget* const stations = draw.list(settings.lstStations, name);
     stations->set_empty_text(QStringLiteral("No stations are listed."));
+    stations->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as high as the grid
     lists->addWidget(stations, 1);
     card->content()->addLayout(lists, 1);
     auto* const line = new QHBoxLayout;
