@@ -23,6 +23,20 @@ Card* Draw::card(Panel& panel) {
     return card;
 }
 
+Card* Draw::sheet() {
+    auto* const card = new Card(window_.surface());
+    card->title()->hide();
+    window_.holds(card);
+    return card;
+}
+
+Card* Draw::section(Panel& panel) {
+    Card* const part = card(panel);
+    set_mark(*part, "card", false);
+    part->layout()->setContentsMargins(0, 0, 0, 0);
+    return part;
+}
+
 QLabel* Draw::caption(Label& label, char letter) {
     auto* const widget = new QLabel(parent_of(label));
     mark(*widget, "quiet");
@@ -133,6 +147,8 @@ GridWidget* Draw::grid(Grid& grid, const QString& name) {
 void Draw::begins_in(const Panel& panel, QWidget* control) {
     window_.begins(windows_.view_of(panel)->widget(), control);
 }
+
+QWidget* Draw::widget_of(const Field& field) const { return windows_.view_of(field)->widget(); }
 
 QLabel* Draw::title() {
     auto* const widget = new QLabel(window_.surface());

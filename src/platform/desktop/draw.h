@@ -28,6 +28,12 @@ class Draw {
 
     Card* card(Panel& panel);
 
+    // A card that no panel stands for: fields of the screen itself are laid out on it.
+    Card* sheet();
+
+    // A panel that is a part of the card that it is laid out on, without a border of its own.
+    Card* section(Panel& panel);
+
     // Labels: a caption says what stands beside it, and underlined, leads to it; a value is one
     // line; a note is a sentence or more; a heading is the largest text of its window.
     QLabel* caption(Label& label, char letter = no_letter);
@@ -72,6 +78,9 @@ class Draw {
     QLabel* text(const QString& text, QWidget* parent);
 
     ScreenWindow& window() { return window_; }
+
+    // What a field is drawn as already.
+    QWidget* widget_of(const Field& field) const;
 
   private:
     QWidget* parent_of(const Field& field) const;

@@ -119,6 +119,16 @@ int GridWidget::row_pixels(int row) const {
     return static_cast<int>(std::lround(double(row_height_) * twips / Grid::standard_height));
 }
 
+// An answer without rows leaves one blank row below its headings.
+bool GridWidget::holds_nothing() const {
+    if (data_rows() <= 0) return true;
+    if (fixed_rows_ == 0 || data_rows() > 1) return false;
+    for (int column = 0; column < columns_; ++column) {
+        if (!grid_.cell(fixed_rows_, column).empty()) return false;
+    }
+    return true;
+}
+
 int GridWidget::rows_in_view() const {
     return std::max(1, (viewport()->height() - heading_height()) / row_height_);
 }
@@ -194,9 +204,10 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
     const Colours colours = own_colours();
     painter.fillRect(viewport()->rect(), colours.card);
-    if (data_rows() <= 0 && !empty_text_.isEmpty()) {
+    if (holds_nothing() && !empty_text_.isEmpty()) {
         painter.setPen(colours.quiet);
-        painter.drawText(viewport()->rect().adjusted(16, 16 + heading_height(), -16, -16),
+        const int above = heading_height() + std::max(0, data_rows()) * row_height_;
+        painter.drawText(viewport()->rect().adjusted(16, 8 + above, -16, -8),
                          Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
     }
     painter.save();

@@ -34,7 +34,8 @@ class GridWidget : public QAbstractScrollArea {
     std::function<void(Key)> on_key;
     std::function<void(GridCell)> on_move;  // to a cell that is there
 
-    // What stands in place of the rows while there are none.
+    // What stands in place of the rows while there are none, or only the blank one of an answer
+    // without rows.
     void set_empty_text(const QString& text) { empty_text_ = text; }
 
     // Tells the columns apart; asked whenever the widget follows its grid.
@@ -94,6 +95,7 @@ class GridWidget : public QAbstractScrollArea {
     };
 
     int data_rows() const { return rows_ - fixed_rows_; }
+    bool holds_nothing() const;
     int row_pixels(int row) const;
     // A caption has a line of its own below the number.
     int heading_height() const { return row_height_ + 4 + (marks_ ? fontMetrics().height() : 0); }

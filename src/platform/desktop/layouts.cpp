@@ -14,6 +14,12 @@ void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& wi
         lay_out_manager(screens.frmPreferences, draw);
     } else if (&screen == &screens.frmConfigurationDisplay) {
         lay_out_display(screens.frmConfigurationDisplay, draw);
+    } else if (&screen == &screens.frmCharSource) {
+        lay_out_source(screens.frmCharSource, draw);
+    } else if (&screen == &screens.frmCharacteristics) {
+        lay_out_translation(screens.frmCharacteristics, draw);
+    } else if (&screen == &screens.frmCharacteristicDetails) {
+        lay_out_details(screens.frmCharacteristicDetails, draw);
     } else {
         lay_out_plainly(screen, draw);
     }

@@ -110,6 +110,12 @@ class PaletteFollower : public QObject {
         own.setColor(QPalette::Highlight, colours.accent);
         own.setColor(QPalette::HighlightedText, colours.accent_text);
         QApplication::setPalette(own);
+        // The style draws the marks of boxes and options in a dark shade of the window's colour,
+        // which could not be seen on a dark card.
+        QPalette of_marks = own;
+        of_marks.setColor(QPalette::Window, mixed(colours.card, colours.text, 0.5).lighter(140));
+        QApplication::setPalette(of_marks, "QCheckBox");
+        QApplication::setPalette(of_marks, "QRadioButton");
         qApp->setStyleSheet(sheet);
     }
 
