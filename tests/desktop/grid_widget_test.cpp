@@ -110,6 +110,23 @@ TEST_F(DrawnGrid, AFixedRowNamesTheColumnsAndIsNotClicked) {
     EXPECT_EQ(clicks_, (std::vector<GridCell>{{1, 1}}));
 }
 
+// An answer of the database without rows comes as one blank row.
+TEST_F(DrawnGrid, ASingleBlankRowBelowTheHeadingsLeavesTheSentenceOfAnEmptyTable) {
+    widget_->set_empty_text("No unit matches.");
+    grid().add_row("unit\tname\tkind");
+    grid().add_row("");
+    grid().set_fixed_rows(1);
+    view_->follow();
+    const int below = widget_->cell_place({1, 0}).bottom() + 2;
+    const auto below_first_row = [this, below] {
+        return widget_->viewport()->grab(QRect(0, below, 640, 100)).toImage();
+    };
+    const QImage blank = below_first_row();
+    grid().set_cell(1, 0, "mg/l");
+    view_->follow();
+    EXPECT_NE(below_first_row(), blank);
+}
+
 TEST_F(DrawnGrid, ArrowsMoveAndEnterAndSpaceClick) {
     fill(500);
     widget_->setFocus();

@@ -4,9 +4,11 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <cmath>
@@ -441,6 +443,29 @@ TEST(Colours, TextCanBeReadOnEveryTintInLightAndDark) {
         EXPECT_GE(contrast(colours.title, colours.page), readable) << scheme.name;
         EXPECT_GE(contrast(colours.accent_text, colours.accent), readable) << scheme.name;
     }
+}
+
+TEST(Colours, TheMarksOfBoxesAndOptionsCanBeSeenOnACard) {
+    constexpr double to_be_seen = 3;
+    for (const Scheme& scheme : schemes()) {
+        put_on(scheme);
+        Card card(nullptr);
+        card.content()->addWidget(new QCheckBox(&card));
+        card.content()->addWidget(new QRadioButton(&card));
+        card.show();
+        for (const QAbstractButton* const mark : card.findChildren<QAbstractButton*>()) {
+            const QImage picture = card.grab(mark->geometry()).toImage();
+            double strongest = 1;
+            for (int x = 0; x < picture.width(); ++x) {
+                for (int y = 0; y < picture.height(); ++y) {
+                    strongest =
+                        std::max(strongest, contrast(picture.pixelColor(x, y), own_colours().card));
+                }
+            }
+            EXPECT_GE(strongest, to_be_seen) << scheme.name << mark->metaObject()->className();
+        }
+    }
+    put_on(schemes().front());
 }
 
 }  // namespace

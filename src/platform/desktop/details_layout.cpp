@@ -336,12 +336,13 @@ QHBoxLayout* heading(Details& details, Draw& draw) {
 
 // What there is to choose stands above, the characteristics below over the whole width.
 void lay_out_details(FrmCharacteristicDetails& details, Draw& draw) {
+    constexpr int most_of_it = 10000;  // of what is left beside the choices
     draw.window().page()->addLayout(heading(details, draw));
     auto* const above = new QHBoxLayout;
     above->setSpacing(between_cards);
     above->addWidget(choices_card(details, draw));
-    above->addLayout(panels(details, draw), 1);
-    above->addStretch();
+    above->addLayout(panels(details, draw), most_of_it);
+    above->addStretch(1);
     draw.window().page()->addLayout(above);
     draw.window().page()->addWidget(details_sheet(details, draw), 1);
     lead_into_panels(details, draw);

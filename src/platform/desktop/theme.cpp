@@ -6,6 +6,7 @@
 #include <QStyleFactory>
 #include <QWidget>
 #include <array>
+#include <utility>
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/pictures.h"
@@ -100,12 +101,17 @@ class PaletteFollower : public QObject {
     }
 
   private:
+    // Setting palettes tells of a change again.
     void follow() {
+        if (std::exchange(following_, true)) return;
+        set_colours();
+        following_ = false;
+    }
+
+    void set_colours() {
         const QPalette palette = QApplication::palette();
         const Colours colours = colours_of(palette);
         const QString sheet = style_sheet(colours);
-        if (sheet == sheet_) return;
-        sheet_ = sheet;
         QPalette own = palette;
         own.setColor(QPalette::Highlight, colours.accent);
         own.setColor(QPalette::HighlightedText, colours.accent_text);
@@ -116,10 +122,13 @@ class PaletteFollower : public QObject {
         of_marks.setColor(QPalette::Window, mixed(colours.card, colours.text, 0.5).lighter(140));
         QApplication::setPalette(of_marks, "QCheckBox");
         QApplication::setPalette(of_marks, "QRadioButton");
+        if (sheet == sheet_) return;
+        sheet_ = sheet;
         qApp->setStyleSheet(sheet);
     }
 
     QString sheet_;
+    bool following_ = false;
 };
 
 }  // namespace

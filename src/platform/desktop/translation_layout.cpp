@@ -182,8 +182,9 @@ QHBoxLayout* heading(Translation& translation, Draw& draw) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
     line->addWidget(draw.title());
-    line->addStretch();
+    line->addSpacing(between_cards);
     line->addWidget(file);
+    line->addStretch();
     return line;
 }
 
@@ -192,13 +193,14 @@ QHBoxLayout* heading(Translation& translation, Draw& draw) {
 // The names are the work and take the height on the left; what is done with one goes down on the
 // right.
 void lay_out_translation(FrmCharacteristics& translation, Draw& draw) {
+    constexpr int most_of_it = 10000;  // of what is left beside the steps
     Controls controls{};
     draw.window().page()->addLayout(heading(translation, draw));
     auto* const whole = new QHBoxLayout;
     whole->setSpacing(between_cards);
     Card* const names = names_sheet(translation, controls, draw);
     names->setMaximumWidth(names->fontMetrics().averageCharWidth() * widest_names_in_letters);
-    whole->addWidget(names, 1);
+    whole->addWidget(names, most_of_it);
 
     auto* const flow = new QVBoxLayout;
     flow->setSpacing(between_cards);
@@ -212,7 +214,7 @@ void lay_out_translation(FrmCharacteristics& translation, Draw& draw) {
     flow->addStretch();
     flow->addLayout(row({draw.filled(translation.cmdNext, 'x')}, Side::right));
     whole->addLayout(flow);
-    whole->addStretch();
+    whole->addStretch(1);
     draw.window().page()->addLayout(whole, 1);
     lead_keyboard(translation, controls);
 }
