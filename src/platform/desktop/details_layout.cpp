@@ -45,8 +45,11 @@ void add_boxes(Details& details, Label& heading, const std::array<LetteredBox, c
     }
 }
 
+// Higher than its boxes need it, for the panels beside it with their long lists.
 Card* choices_card(Details& details, Draw& draw) {
+    constexpr int in_lines = 20;
     Card* const card = draw.card(details.frameChoices);
+    card->setMinimumHeight(card->fontMetrics().height() * in_lines);
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(inside_card);
     grid->setVerticalSpacing(between_controls);
@@ -63,7 +66,7 @@ QHBoxLayout* for_all(Label& sentence, Button& yes, Draw& draw) {
     return row({draw.caption(sentence), draw.button(yes, for_all_letter)}, Side::right);
 }
 
-// A table of the database takes the height that is left on its card.
+// A table takes the height that is left on its card and asks for none.
 GridWidget* of_height_left(GridWidget* widget) {
     widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     widget->setMinimumHeight(widget->minimumSizeHint().height());
@@ -308,7 +311,7 @@ Card* details_sheet(Details& details, Draw& draw) {
     GridWidget* const table = draw.grid(details.MSFlexDetails, shown(details.text()));
     table->set_empty_text(QStringLiteral("There are no characteristics to detail."));
     sheet->content()->addWidget(typing);
-    sheet->content()->addWidget(table, 1);
+    sheet->content()->addWidget(of_height_left(table), 1);
 
     auto* const questions = new QVBoxLayout;
     questions->setSpacing(between_controls);
