@@ -6,8 +6,8 @@
 
 namespace brooklander {
 
-// Asks, of a file that is about to be viewed, whether it is to be imported or, while characteristics
-// are wanted, whether they are to be set up from it. The second question wins.
+// Asks, of a file that is about to be viewed, whether it is to be imported or, while
+// characteristics are wanted, whether they are to be set up from it. The second question wins.
 void ask_what_file_is_for(Screens& screens);
 
 // "Import This File?": Yes leads to the choice of a configuration and names the output file after

@@ -4,14 +4,17 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <cmath>
 #include <map>
 
+#include "desktop/characteristic_roads.h"
 #include "desktop/drawn_program.h"
 #include "desktop/wizard_roads.h"
 #include "platform/desktop/colours.h"
@@ -149,6 +152,8 @@ std::map<std::string, Road> all_roads() {
          }},
     };
     for (const test::WizardRoad& road : test::wizard_roads()) all[road.name] = road.take;
+    const auto further = test::characteristic_roads();
+    all.insert(further.begin(), further.end());
     return all;
 }
 
@@ -239,7 +244,7 @@ class Windows : public testing::TestWithParam<std::tuple<std::string, Scheme>> {
 
 TEST_P(Windows, ShowWhatTheFieldsHoldWithoutAWarning) {
     EXPECT_EQ(drawn_.failure, "");
-    EXPECT_EQ(drawn_.windows.difference(), "");
+    EXPECT_EQ(drawn_.windows.difference().toStdString(), "");
     EXPECT_EQ(take_warning(), "");
 }
 
@@ -383,7 +388,7 @@ TEST(PlainWindows, ShowEveryFieldByNameInReadingOrderWithoutClipping) {
         });
         const QWidget& window = *drawn.windows.window_of(*screen);
         SCOPED_TRACE(screen->name());
-        EXPECT_EQ(drawn.windows.difference(), "");
+        EXPECT_EQ(drawn.windows.difference().toStdString(), "");
         expect_named_controls(window);
         expect_tab_order_of_reading(window);
         expect_no_clipped_text(window);
@@ -442,6 +447,29 @@ TEST(Colours, TextCanBeReadOnEveryTintInLightAndDark) {
         EXPECT_GE(contrast(colours.title, colours.page), readable) << scheme.name;
         EXPECT_GE(contrast(colours.accent_text, colours.accent), readable) << scheme.name;
     }
+}
+
+TEST(Colours, TheMarksOfBoxesAndOptionsCanBeSeenOnACard) {
+    constexpr double to_be_seen = 3;
+    for (const Scheme& scheme : schemes()) {
+        put_on(scheme);
+        Card card(nullptr);
+        card.content()->addWidget(new QCheckBox(&card));
+        card.content()->addWidget(new QRadioButton(&card));
+        card.show();
+        for (const QAbstractButton* const mark : card.findChildren<QAbstractButton*>()) {
+            const QImage picture = card.grab(mark->geometry()).toImage();
+            double strongest = 1;
+            for (int x = 0; x < picture.width(); ++x) {
+                for (int y = 0; y < picture.height(); ++y) {
+                    strongest =
+                        std::max(strongest, contrast(picture.pixelColor(x, y), own_colours().card));
+                }
+            }
+            EXPECT_GE(strongest, to_be_seen) << scheme.name << mark->metaObject()->className();
+        }
+    }
+    put_on(schemes().front());
 }
 
 }  // namespace

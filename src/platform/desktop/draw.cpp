@@ -32,9 +32,10 @@ Card* Draw::section(Panel& panel) {
     return section;
 }
 
-Card* Draw::plain_card() {
+Card* Draw::sheet() {
     auto* const card = new Card(window_.surface());
     card->title()->hide();
+    window_.holds(card);
     return card;
 }
 
@@ -189,6 +190,8 @@ QLabel* Draw::still_needed(Button& button, const std::vector<Needed>& needed,
 void Draw::begins_in(const Panel& panel, QWidget* control) {
     window_.begins(windows_.view_of(panel)->widget(), control);
 }
+
+QWidget* Draw::widget_of(const Field& field) const { return windows_.view_of(field)->widget(); }
 
 QLabel* Draw::title() {
     auto* const widget = new QLabel(window_.surface());

@@ -31,8 +31,8 @@ class Draw {
     // A part of a card, with its title and without a border.
     Card* section(Panel& panel);
 
-    // A card that is no field, for what a screen has outside of its panels.
-    Card* plain_card();
+    // A card that no panel stands for: fields of the screen itself are laid out on it.
+    Card* sheet();
 
     // Labels: a caption says what stands beside it, and underlined, leads to it; a value is one
     // line; a note is a sentence or more; a heading is the largest text of its window.
@@ -97,6 +97,9 @@ class Draw {
     QLabel* text(const QString& text, QWidget* parent);
 
     ScreenWindow& window() { return window_; }
+
+    // What a field is drawn as already.
+    QWidget* widget_of(const Field& field) const;
 
   private:
     QWidget* parent_of(const Field& field) const;

@@ -76,6 +76,7 @@ int GridWidget::row_pixels(int row) const {
     return static_cast<int>(std::lround(double(row_height_) * twips / Grid::standard_height));
 }
 
+// An answer without rows leaves one blank row below its headings.
 int GridWidget::rows_in_view() const {
     return std::max(1, (viewport()->height() - heading_height()) / row_height_);
 }

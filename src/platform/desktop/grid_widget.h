@@ -37,7 +37,8 @@ class GridWidget : public QAbstractScrollArea {
     std::function<void(Key)> on_key;
     std::function<void(GridCell)> on_move;  // to a cell that is there
 
-    // What stands in place of the rows while there are none.
+    // What stands in place of the rows while there are none, or only the blank one of an answer
+    // without rows.
     void set_empty_text(const QString& text) { empty_text_ = text; }
 
     // What stands in place of the blank row of a query that has found none; the row can be clicked

@@ -20,6 +20,12 @@ void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& wi
         lay_out_samples(screens.frmPreferencesSamples, draw);
     } else if (&screen == &screens.frmPreferencesSampleOption) {
         lay_out_options(screens.frmPreferencesSampleOption, draw);
+    } else if (&screen == &screens.frmCharSource) {
+        lay_out_source(screens.frmCharSource, draw);
+    } else if (&screen == &screens.frmCharacteristics) {
+        lay_out_translation(screens.frmCharacteristics, draw);
+    } else if (&screen == &screens.frmCharacteristicDetails) {
+        lay_out_details(screens.frmCharacteristicDetails, draw);
     } else {
         lay_out_plainly(screen, draw);
     }

@@ -13,6 +13,9 @@ void lay_out_start(FrmStart& start, Draw& draw);
 void lay_out_import(FrmImportFileDisplay& display, Draw& draw);
 void lay_out_manager(FrmPreferences& manager, Draw& draw);
 void lay_out_display(FrmConfigurationDisplay& display, Draw& draw);
+void lay_out_source(FrmCharSource& source, Draw& draw);
+void lay_out_translation(FrmCharacteristics& translation, Draw& draw);
+void lay_out_details(FrmCharacteristicDetails& details, Draw& draw);
 
 // The steps of a configuration that is made or edited. What kind of activity is chosen stands on
 // the manager.

@@ -68,7 +68,7 @@ QHBoxLayout* depth_unit(Options& options, QCheckBox*& first, Draw& draw) {
 void lay_out_options(FrmPreferencesSampleOption& options, Draw& draw) {
     begin_step(options.lblFileNameCaption, options.lblFileName, draw);
 
-    Card* const card = draw.plain_card();
+    Card* const card = draw.sheet();
     QVBoxLayout* const content = card->content();
     content->setSpacing(inside_card);
     QCheckBox* first = nullptr;

@@ -181,6 +181,8 @@ void ScreenWindow::begins(QWidget* card, QWidget* first) {
 
 void ScreenWindow::moves_on(QWidget* button) { movers_.push_back({button}); }
 
+void ScreenWindow::lead_tab_into(QWidget* card) { next_by_tab_ = first_control_on(card); }
+
 void ScreenWindow::bring_into_view(QWidget* widget) {
     if (surface_->isAncestorOf(widget)) area_->ensureWidgetVisible(widget, 8, 8);
 }

@@ -36,6 +36,9 @@ class ScreenWindow : public QMainWindow {
     // The button that moves a step on: once it can be pressed, Tab leads to it next.
     void moves_on(QWidget* button);
 
+    // Has Tab lead next to the first control on a card.
+    void lead_tab_into(QWidget* card);
+
     // To be called when all widgets follow their fields. `had_keyboard` is the control that had the
     // keyboard before; without `may_give_keyboard`, a step has given it already.
     void settled(QWidget* had_keyboard, bool may_give_keyboard);

@@ -1,23 +1,13 @@
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "platform/desktop/file_choice.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
 namespace {
-
-// So many letters of the application's font, so that cards grow with it.
-int letters(int count, const QWidget& widget) {
-    return widget.fontMetrics().averageCharWidth() * count;
-}
-
-void keep_width(QWidget* widget, int count) {
-    widget->setFixedWidth(letters(count, *widget));
-    widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
-}
 
 // A card in the middle of the page's width, as high as its texts need it.
 QHBoxLayout* in_the_middle(QWidget* card) {
@@ -77,44 +67,18 @@ Card* about_card(FrmStart& start, Draw& draw) {
 }
 
 Card* files_card(FrmStart& start, Draw& draw) {
-    Card* const card = draw.card(start.frameFiles);
-    keep_width(card, 100);
-    QLabel* const drive = draw.caption(start.lblDrive, 'D');
-    QLabel* const folder = draw.caption(start.lblDirectory, 'i');
-    QLabel* const files = draw.caption(start.lblAvailableFiles, 'l');
-    QComboBox* const drives = draw.pick_list(start.Drive1, shown(start.lblDrive.text()));
-    ListWidget* const folders = draw.list(start.Dir1, shown(start.lblDirectory.text()));
-    ListWidget* const names =
-        draw.list(start.lstImportFileBox, shown(start.lblAvailableFiles.text()));
-    names->set_empty_text(QStringLiteral("No text files here. Open another directory."));
-    folders->setMinimumHeight(folders->fontMetrics().height() * 18);
-    drive->setBuddy(drives);
-    folder->setBuddy(folders);
-    files->setBuddy(names);
-
-    auto* const lists = new QGridLayout;
-    lists->setHorizontalSpacing(inside_card);
-    lists->setVerticalSpacing(4);
-    lists->addWidget(drive, 0, 0);
-    lists->addWidget(drives, 1, 0);
-    lists->addWidget(folder, 2, 0);
-    lists->addWidget(folders, 3, 0);
-    lists->addWidget(files, 0, 1);
-    lists->addWidget(names, 1, 1, 3, 1);
-    lists->setColumnStretch(0, 1);
-    lists->setColumnStretch(1, 1);
-    lists->setRowStretch(3, 1);
-    card->content()->addLayout(lists, 1);
-
-    auto* const chosen = new QHBoxLayout;
-    chosen->setSpacing(between_controls);
-    chosen->addWidget(draw.caption(start.lblSelectedFileCaption));
-    chosen->addWidget(draw.value(start.lblSelectedFile, shown(start.lblSelectedFileCaption.text())),
-                      1);
-    chosen->addWidget(draw.filled(start.cmdView, 'V'));
-    card->content()->addWidget(draw.note(start.lblTabDelimited));
-    card->content()->addLayout(chosen);
-    return card;
+    return file_choice_card({.panel = start.frameFiles,
+                             .drives = start.Drive1,
+                             .folders = start.Dir1,
+                             .files_caption = start.lblAvailableFiles,
+                             .files = start.lstImportFileBox,
+                             .chosen_caption = start.lblSelectedFileCaption,
+                             .chosen = start.lblSelectedFile,
+                             .view = start.cmdView,
+                             .drives_caption = &start.lblDrive,
+                             .folders_caption = &start.lblDirectory,
+                             .hint = &start.lblTabDelimited},
+                            draw);
 }
 
 }  // namespace
@@ -134,7 +98,6 @@ void lay_out_start(FrmStart& start, Draw& draw) {
     page->addLayout(in_the_middle(exit_card(start, draw)));
     page->addLayout(in_the_middle(about_card(start, draw)));
     Card* const files = files_card(start, draw);
-    files->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     page->addLayout(in_the_middle(files));
     constexpr int most_of_it = 100;
     share_while_shown(page, page->count() - 1, most_of_it, {files});

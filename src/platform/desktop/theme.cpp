@@ -6,6 +6,7 @@
 #include <QStyleOption>
 #include <QWidget>
 #include <array>
+#include <utility>
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/pictures.h"
@@ -103,7 +104,9 @@ class MarksInSight : public QProxyStyle {
         }
         constexpr int darker_by = 140;  // percent, in that style
         QStyleOptionButton seen = *button;
-        seen.palette.setColor(QPalette::Window, own_colours().edge.lighter(darker_by));
+        const Colours colours = own_colours();
+        seen.palette.setColor(QPalette::Window,
+                              mixed(colours.card, colours.text, 0.5).lighter(darker_by));
         QProxyStyle::drawPrimitive(element, &seen, painter, widget);
     }
 };
@@ -122,20 +125,28 @@ class PaletteFollower : public QObject {
     }
 
   private:
+    // Setting palettes tells of a change again.
     void follow() {
+        if (std::exchange(following_, true)) return;
+        set_colours();
+        following_ = false;
+    }
+
+    void set_colours() {
         const QPalette palette = QApplication::palette();
         const Colours colours = colours_of(palette);
         const QString sheet = style_sheet(colours);
-        if (sheet == sheet_) return;
-        sheet_ = sheet;
         QPalette own = palette;
         own.setColor(QPalette::Highlight, colours.accent);
         own.setColor(QPalette::HighlightedText, colours.accent_text);
         QApplication::setPalette(own);
+        if (sheet == sheet_) return;
+        sheet_ = sheet;
         qApp->setStyleSheet(sheet);
     }
 
     QString sheet_;
+    bool following_ = false;
 };
 
 }  // namespace

@@ -27,7 +27,7 @@ void begin_step(Panel& panel, Label& name, Draw& draw) {
 void begin_step(Label& caption, Label& name, Draw& draw) {
     QLabel* const heading = draw.heading(caption, 1);
     heading->setFont(font_larger_by(1, QFont::DemiBold));
-    add_named_file(draw.plain_card(), heading, name, shown(caption.text()), draw);
+    add_named_file(draw.sheet(), heading, name, shown(caption.text()), draw);
 }
 
 QGridLayout* chosen_form() {
