@@ -20,6 +20,7 @@ void forget_samples(FrmPreferencesSamples& samples) {
     blank({&samples.lblFieldGearID, &samples.lblFieldGearIDSelected,
            &samples.lblSampleCollectionProcedureID, &samples.lblGearConfiguration,
            &samples.txtGearDeploymentComments});
+    samples.cmdContinue.disable();
 }
 
 void forget_sample_options(FrmPreferencesSampleOption& options) {
@@ -69,6 +70,12 @@ void go_to_sample_collection(Screens& screens, Database& database) {
     FrmPreferencesSampleOption& options = screens.frmPreferencesSampleOption;
     options.frameSampleSpecifications.show();
     options.frameSampleTransportID.show();
+    // Gear is offered for a procedure, and none of an earlier one for none.
+    FrmPreferencesSamples& samples = screens.frmPreferencesSamples;
+    if (samples.lblSampleCollectionProcedureID.empty()) {
+        samples.MSHFlexGear.set_rows(0);
+        samples.MSHFlexGearConfiguration.set_rows(0);
+    }
     list_procedures(screens, organization_id(screens.frmPreferencesSettings), database);
     screens.frmPreferencesSettings.hide();
     screens.frmPreferencesSamples.show();

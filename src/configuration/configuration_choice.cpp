@@ -84,6 +84,7 @@ void filePreferences_Click(Screens& screens, const Files& files) {
     FrmPreferences& preferences = screens.frmPreferences;
     preferences.bring_forward();
     preferences.frameNoChar.hide();
+    preferences.chkEdit.set_ticked(false);
     preferences.chkYes.set_ticked(false);
     preferences.cmdConfirm.disable();
     clear_shown_file(screens);

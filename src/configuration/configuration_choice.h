@@ -8,7 +8,7 @@ namespace brooklander {
 
 // Shows what the selected file and its characteristics hold, and names the file on every screen of
 // the sequence. A file that has gone, and a folder of more than most_configurations files, are a
-// FatalFailure; characteristics that cannot be read leave the grids without rows.
+// FatalFailure; characteristics that cannot be read leave the grids with the row of headings alone.
 void filePreferences_Click(Screens& screens, const Files& files);
 
 // The file is shown no longer; its values stay the current configuration.

@@ -14,6 +14,7 @@
 #include "platform/fatal_failure.h"
 #include "shared/text.h"
 #include "shared/workspace.h"
+#include "sweeps/reset_screens.h"
 
 namespace brooklander {
 namespace {
@@ -125,7 +126,7 @@ void fill_following_screens(Screens& screens) {
     options.lblSelectedName.set_text(preferences.lblPerson.text());
 
     tick_depth_unit(options, preferences.lblDepthUnits.text());
-    if (!options.lblSelectedProject.empty()) options.cmdNext.enable();
+    options.cmdNext.set_enabled(!options.lblSelectedProject.empty());
     samples.cmdContinue.enable();
 }
 
@@ -160,6 +161,8 @@ void cmdOpen_Click(Screens& screens, Platform& platform) {
     tick_boxes(screens);
     fill_following_screens(screens);
     if (!load_whole_lines(screens, platform.files)) {
+        screens.frmPreferencesSettings.hide();
+        preferences.show();
         preferences.frameNoChar.show();
         return;
     }
@@ -167,9 +170,14 @@ void cmdOpen_Click(Screens& screens, Platform& platform) {
 }
 
 void cmdContinue_Click(Screens& screens, FrmPreferences& preferences) {
+    FrmPreferencesSampleOption& options = screens.frmPreferencesSampleOption;
     preferences.frameNoChar.hide();
+    preferences.chkEdit.set_ticked(false);
+    // What another configuration has left there is not this one's.
+    reset(options);
+    options.lblFileName.set_text(preferences.lblViewFileName.text());
+    options.chkChar.set_ticked(true);
     screens.frmCharSource.lblFile.set_text(preferences.lblViewFileName.text());
-    screens.frmPreferencesSampleOption.chkChar.set_ticked(true);
     preferences.hide();
     offer_sample_files(screens.frmCharSource);
 }

@@ -11,8 +11,8 @@ void load_configuration_manager(FrmPreferences& preferences);
 // View or edit a file: its list comes up, with no file selected.
 void optBrookLanderEdit_Click(Screens& screens);
 
-// Make a file: its name is asked for, and nothing is left of the file that was shown last but its
-// activity type and depth unit.
+// Make a file: its name is asked for, and nothing is shown of the file that was shown last but its
+// activity type and depth unit. Its selection goes with the first character of the name.
 void optBrooklanderNew_Click(Screens& screens);
 
 // Attach a file to the one being converted: the list comes up, or, where it is empty, the offer to

@@ -7,6 +7,7 @@
 #include "shared/text.h"
 #include "shared/workspace.h"
 #include "sweeps/keldar.h"
+#include "sweeps/reset_screens.h"
 
 namespace brooklander {
 namespace {
@@ -24,7 +25,16 @@ void name_new_file_everywhere(Screens& screens) {
     }
 }
 
-void lead_to_settings(Screens& screens) {
+// With nothing chosen, whatever an edit that was left has put on the screens: the organization
+// comes first.
+void begin_new_file(Screens& screens) {
+    reset(screens.frmPreferencesSettings);
+    reset(screens.frmPreferencesSamples);
+    reset(screens.frmPreferencesSampleOption);
+    screens.frmPreferencesSettings.frameActivity.hide();
+    screens.frmCharacteristicDetails.cmdSave.enable();
+    screens.frmPreferencesCharacteristics.cmdSaveAs.disable();
+    name_new_file_everywhere(screens);
     screens.frmPreferences.hide();
     screens.frmPreferencesSettings.show();
 }
@@ -47,6 +57,7 @@ void txtFileName_Change(FrmPreferences& preferences) {
     if (preferences.txtFileName.empty()) return;
     preferences.cmdNewFileSave.enable();
     preferences.frameFileExistsWarning.hide();
+    preferences.frameConfirm.hide();
     preferences.frameConfirmDelete.hide();
     preferences.frameView.hide();
     preferences.lblSelectedFile.clear_text();
@@ -70,11 +81,7 @@ void cmdNewFileSave_Click(Screens& screens, Files& files) {
     if (preferences.frameFileExistsWarning.visible()) return;
 
     files.create(std::string(workspace::configurations) + name + ".txt")->close();
-    screens.frmCharacteristicDetails.cmdSave.enable();
-    screens.frmPreferencesSettings.frameActivity.hide();
-    name_new_file_everywhere(screens);
-    screens.frmPreferencesCharacteristics.cmdSaveAs.disable();
-    lead_to_settings(screens);
+    begin_new_file(screens);
 }
 
 void cmdReplaceNo_Click(FrmPreferences& preferences) {
@@ -95,8 +102,7 @@ void cmdYes_Click(Screens& screens, Platform& platform) {
     platform.database.try_connect(keldar_connect_string(screens.frmStart));
     platform.database.run(keldar_query(screens.frmStart, "SELECT org_id FROM KELDAR1.TSMORGAN"));
 
-    lead_to_settings(screens);
-    screens.frmPreferencesSettings.lblFileName.set_text(preferences.txtFileName.text());
+    begin_new_file(screens);
 }
 
 }  // namespace brooklander

@@ -19,17 +19,17 @@ void txtFileName_Change(FrmPreferences& preferences);
 void txtFileName_Click(FrmPreferences& preferences);
 
 // Makes the file, empty, and leads to the settings, the name standing on every screen of the
-// sequence. A name that is in the list already raises the question whether to replace the file;
-// names are compared with regard to case, so that another spelling makes an existing file empty
-// without one. Blanks at the name's ends count for the file and not for the comparison. A
-// FatalFailure when the file cannot be made.
+// sequence and nothing chosen on any. A name that is in the list already raises the question
+// whether to replace the file; names are compared with regard to case, so that another spelling
+// makes an existing file empty without one. Blanks at the name's ends count for the file and not
+// for the comparison. A FatalFailure when the file cannot be made.
 void cmdNewFileSave_Click(Screens& screens, Files& files);
 
 void cmdReplaceNo_Click(FrmPreferences& preferences);
 
-// Deletes the file that is to be replaced, and leads to the settings. The new one is made when the
-// sequence comes to its end, and not before. A FatalFailure when the database cannot be reached;
-// the file is gone by then.
+// Deletes the file that is to be replaced, and leads to the settings in the same way. The new one
+// is made when the sequence comes to its end, and not before. A FatalFailure when the database
+// cannot be reached; the file is gone by then.
 void cmdYes_Click(Screens& screens, Platform& platform);
 
 }  // namespace brooklander

@@ -12,9 +12,9 @@ namespace brooklander {
 // The chosen organization as the statements want it: trimmed, in upper case.
 std::string organization_id(const FrmPreferencesSettings& settings);
 
-// Each fills the grid of its list and lays the grid out. The values go into the statement as they
-// come: nothing is trimmed, and a quote in one of them makes the statement fail. A FatalFailure
-// when it does, or when the database cannot be reached.
+// Each fills the grid of its list, and gives it its column widths where it has any of its own. The
+// values go into the statement as they come: nothing is trimmed, and a quote in one of them makes
+// the statement fail. A FatalFailure when it does, or when the database cannot be reached.
 
 // All organizations but the dummy one.
 void list_organizations(Screens& screens, Database& database);

@@ -89,7 +89,7 @@ void MSHFlexProjects_Click(FrmPreferencesSampleOption& options) {
     Label& name = is_first ? options.lblProjectName : options.lblProjectNameTwo;
     id.set_text(clicked(options.MSHFlexProjects, 0));
     name.set_text(clicked(options.MSHFlexProjects, 1));
-    if (is_first) options.cmdNext.enable();
+    if (!id.empty()) options.cmdNext.enable();
 }
 
 void cmdProjectClear_Click(FrmPreferencesSampleOption& options) {

@@ -11,7 +11,8 @@ namespace brooklander {
 void chkFeet_Click(FrmPreferencesSampleOption& options);
 void chkMeters_Click(FrmPreferencesSampleOption& options);
 
-// Takes the clicked project, as the first one while there is none, else as the second.
+// Takes the clicked project, as the first one while there is none, else as the second. The blank
+// row of an organization without projects is none.
 void MSHFlexProjects_Click(FrmPreferencesSampleOption& options);
 void cmdProjectClear_Click(FrmPreferencesSampleOption& options);
 void cmdProjectTwoClear_Click(FrmPreferencesSampleOption& options);
@@ -25,7 +26,7 @@ void cmdSampleTransportClear_Click(FrmPreferencesSampleOption& options);
 // the files cannot be written, which leaves the configuration as far as it was written.
 void cmdNext_Click(Screens& screens, Files& files);
 
-// Back to the screen that led here.
+// Back to the activity settings for a field activity, to the sample collection for anything else.
 void mnuExit_Click(Screens& screens, FrmPreferencesSampleOption& options);
 
 }  // namespace brooklander

@@ -22,11 +22,13 @@ void reset(FrmPreferencesSettings& settings) {
     untick({&settings.chkSample, &settings.chkField, &settings.chkRoutine, &settings.chkHabitat,
             &settings.chkWater, &settings.chkAir, &settings.chkSediment, &settings.chkSoil,
             &settings.chkBiological});
+    settings.cmdSave.disable();
 }
 
 void reset(FrmPreferencesSamples& samples) {
     empty({&samples.lblFileName, &samples.lblSampleCollectionProcedureID, &samples.lblFieldGearID,
            &samples.lblFieldGearIDSelected, &samples.lblGearConfiguration});
+    samples.cmdContinue.disable();
 }
 
 void reset(FrmPreferencesSampleOption& options) {
@@ -35,6 +37,7 @@ void reset(FrmPreferencesSampleOption& options) {
            &options.lblLastName, &options.lblFirstName, &options.lblSelectedName,
            &options.lblSampleTransportID, &options.lblSampleTransportName});
     untick({&options.chkFeet, &options.chkMeters, &options.chkChar});
+    options.cmdNext.disable();
 }
 
 void clear_options(FrmPreferences& preferences) {
@@ -53,6 +56,11 @@ void hide_files(FrmPreferences& preferences) {
     preferences.frameView.hide();
     preferences.frameUseFile.hide();
     preferences.frameFileOptions.hide();
+    preferences.frameNoFile.hide();
+    preferences.frameFileExistsWarning.hide();
+    preferences.frameConfirm.hide();
+    preferences.frameConfirmDelete.hide();
+    preferences.lblWait.hide();
 }
 
 }  // namespace brooklander

@@ -6,14 +6,14 @@
 namespace brooklander {
 
 // Each takes one screen back to no choice at all: its value labels empty, its tick boxes at 0, in
-// that order. A box that was ticked runs its handler, as it does whenever it goes off; what the
-// handlers hide and disable is theirs.
+// that order, and the button that goes on disabled, which waits for choices. A box that was ticked
+// runs its handler, as it does whenever it goes off; what the handlers hide and disable is theirs.
 //
 // A value label is one that a step fills: what was chosen in a grid or a list, and the name of the
 // configuration file. Labels that only say what stands beside them are captions and keep their
 // text ("Trip:", `lblTripCaption`; "Gear Type:", `lblGearCaption`), and so do panels, however much
-// their title looks like a value. Grids, lists, text boxes, options, and what is shown and enabled
-// stay as they are: the steps that lead to a screen set those.
+// their title looks like a value. Grids, lists, text boxes, options, what is shown, and what else
+// is enabled stay as they are: the steps that lead to a screen set those.
 
 // The organization, the trip with its name and number, the time zone, and the nine boxes of
 // activity type, category and medium.
@@ -31,7 +31,7 @@ void reset(FrmPreferencesSampleOption& options);
 void clear_options(FrmPreferences& preferences);
 
 // The manager shows no file: neither the one that is converted, nor a list to choose from, nor a
-// name to give, nor what one holds with what can be done to it, nor a word about it.
+// name to give, nor what one holds with what can be done to it, nor a word or a question about one.
 void hide_files(FrmPreferences& preferences);
 
 }  // namespace brooklander
