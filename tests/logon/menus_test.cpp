@@ -41,12 +41,18 @@ TEST_F(Menus, TheConfigurationEntryHidesWhatTheManagerShowedOfAFile) {
     EXPECT_FALSE(preferences_.frameFileOptions.visible());
 }
 
-TEST_F(Menus, TheConfigurationEntryLeavesOtherPanelsOfTheManagerAlone) {
-    preferences_.frameNoFile.show();
-    preferences_.frameConfirmDelete.show();
+TEST_F(Menus, TheConfigurationEntryComesUpWithTheOptionsAlone) {
+    for (Panel* const panel : {&preferences_.frameNoFile, &preferences_.frameConfirmDelete,
+                               &preferences_.frameConfirm, &preferences_.frameFileExistsWarning}) {
+        panel->show();
+    }
+    preferences_.lblWait.show();
     start_.mnuPreferences.choose();
-    EXPECT_TRUE(preferences_.frameNoFile.visible());
-    EXPECT_TRUE(preferences_.frameConfirmDelete.visible());
+    for (const Field* const field : preferences_.fields()) {
+        if (field->kind() != FieldKind::panel) continue;
+        EXPECT_EQ(field->visible(), field == &preferences_.frameOptions) << field->name();
+    }
+    EXPECT_FALSE(preferences_.lblWait.visible());
 }
 
 TEST_F(Menus, TheConfigurationEntryOpensTheManagersMenusAndOptions) {

@@ -70,19 +70,30 @@ TEST_F(ResetScreens, ATickedBoxRunsItsHandlerAfterTheLabelsAreEmpty) {
     EXPECT_EQ(runs, (std::vector<std::string>{"feet:"}));
 }
 
+TEST_F(ResetScreens, TheButtonsThatGoOnWaitForAChoiceAgain) {
+    Button& settings = screens_.frmPreferencesSettings.cmdSave;
+    Button& samples = screens_.frmPreferencesSamples.cmdContinue;
+    Button& options = screens_.frmPreferencesSampleOption.cmdNext;
+    for (Button* const button : {&settings, &samples, &options}) button->enable();
+    reset(screens_.frmPreferencesSettings);
+    reset(screens_.frmPreferencesSamples);
+    reset(screens_.frmPreferencesSampleOption);
+    for (const Button* const button : {&settings, &samples, &options}) {
+        EXPECT_FALSE(button->enabled()) << button->path();
+    }
+}
+
 TEST_F(ResetScreens, OtherFieldsStayAsTheyAre) {
     FrmPreferencesSettings& settings = screens_.frmPreferencesSettings;
     settings.lstTimeZone.add("EST Eastern Standard Time");
     settings.MSHFlexOrganization.add_row("TARNS\tTarn Watch");
     settings.optVOXTrip.set_on(true);
     settings.frameActivity.show();
-    settings.cmdSave.enable();
     reset(settings);
     EXPECT_EQ(settings.lstTimeZone.count(), 1U);
     EXPECT_EQ(settings.MSHFlexOrganization.cell(0, 1), "Tarn Watch");
     EXPECT_TRUE(settings.optVOXTrip.on());
     EXPECT_TRUE(settings.frameActivity.visible());
-    EXPECT_TRUE(settings.cmdSave.enabled());
 
     FrmPreferencesSamples& samples = screens_.frmPreferencesSamples;
     samples.txtGearDeploymentComments.set_text("anchored");
