@@ -56,7 +56,7 @@ void put_cell(int column, std::string_view cell, BatchUpdateText& text) {
         text.begin_result();
         text.put_value(cell);
     }
-    if (column > time_column && !cell.empty()) text.put_value(trim(cell));
+    if (column > time_column) text.put_value(trim(cell));
 }
 
 void put_record(Grid& log, int row, BatchUpdateText& text) {
@@ -64,6 +64,7 @@ void put_record(Grid& log, int row, BatchUpdateText& text) {
     std::deque<std::string> changed;  // what is put into the cells must stay where it is
     log.read_row(row, cells);
     for (int column = 0; column < log.columns(); ++column) {
+        if (column > time_column && cells[column].empty()) continue;
         std::string cell(cells[column]);
         convert_cell(column, cell, text);
         put_cell(column, cell, text);
