@@ -1,5 +1,6 @@
 // What the windows take: the table from the press of View to the screen, a page of it scrolled, a
-// configuration from the click in the list to the screen, and the program's first window.
+// configuration from the click in the list to the screen, long lists of the database from the click
+// that asks for them to the screen, and the program's first window.
 //
 //   bench_windows FOLDER [ROWS [PLAYER]]
 //
@@ -10,8 +11,6 @@
 #include <QApplication>
 #include <QScrollBar>
 #include <algorithm>
-#include <array>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -20,6 +19,8 @@
 #include <iostream>
 #include <string>
 
+#include "measure.h"
+#include "measure_lists.h"
 #include "platform/desktop/application.h"
 #include "platform/desktop/grid_widget.h"
 #include "platform/desktop/layouts.h"
@@ -33,23 +34,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int rounds = 5;
 constexpr int pages = 200;
-
-double milliseconds_of(const std::function<void()>& work) {
-    const auto before = std::chrono::steady_clock::now();
-    work();
-    const std::chrono::duration<double, std::milli> time =
-        std::chrono::steady_clock::now() - before;
-    return time.count();
-}
-
-using Figures = std::array<double, rounds>;
-
-double median(Figures figures) {
-    std::sort(figures.begin(), figures.end());
-    return figures[rounds / 2];
-}
 
 double load_alone(const fs::path& home) {
     Road road(home);
@@ -166,6 +151,7 @@ int run(int argc, char** argv) {
     write_sample_table(home / "data/table.txt", rows, Cells::as_in_life);
     measure_table(home, rows);
     measure_configuration(home);
+    measure_lists(home);
     if (argc > 3) measure_first_window(home, argv[3]);
     fs::remove_all(home);
     return 0;

@@ -169,6 +169,7 @@ void apply_to_all(Details& details, const DetailChoice& choice) {
 
 bool type_into_details(Details& details, Key key) {
     Grid& grid = details.MSFlexDetails;
+    if (grid.current().row < grid.fixed_rows()) return false;
     if (key.name == Key::Name::erase) {
         empty_cell(grid);
         return true;

@@ -56,7 +56,8 @@ void apply_to_all(Details& details, const DetailChoice& choice);
 
 // A key typed into the grid. Any character is appended to the cell, whatever its column; Delete
 // empties it, and with a procedure's name its source, where the current cell then is; Enter goes
-// down a row but in column 0. False for keys that do what they do in any grid.
+// down a row but in column 0. False for keys that do what they do in any grid, and for all keys
+// while there is no row but the headings.
 bool type_into_details(Details& details, Key key);
 
 }  // namespace brooklander

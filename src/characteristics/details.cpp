@@ -5,6 +5,7 @@
 
 #include "characteristics/defaults_file.h"
 #include "characteristics/detail_choices.h"
+#include "import/output_choice.h"
 #include "shared/empty_screen.h"
 #include "shared/text.h"
 #include "shared/workspace.h"
@@ -52,6 +53,7 @@ void reset_start_screen(FrmStart& start) {
     start.mnuFiles.enable();
     start.cmdView.disable();
     start.lblSelectedFile.clear_text();
+    forget_file_kind(start);
     start.frameFiles.hide();
     start.frameLog.hide();
 }

@@ -136,7 +136,7 @@ struct FrmCharacteristicDetails : Screen {
     Label lblTyping{*this, "lblTyping", "Type Detection Limit Values As Needed"};
     Grid MSFlexDetails{*this, "MSFlexDetails", {.columns = 13}};
 
-    Button cmdSave{*this, "cmdSave", "Save", disabled};
+    Button cmdSave{*this, "cmdSave", "Save"};
 
     Panel frameSaveConfirm{*this, "frameSaveConfirm", "Confirm Save", hidden};
     Label lblSaveConfirm{frameSaveConfirm, "lblSaveConfirm", "Confirm File Save:"};

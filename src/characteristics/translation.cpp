@@ -32,12 +32,14 @@ void apply_translation(FrmCharacteristics& translation) {
     put_translation(translation, trim(translation.lblCharacteristics.text()));
 }
 
-// The heading of the names stays as it is found.
-void write_names(const Grid& names, Grid& details) {
+// The cell that is read last becomes the current one. The heading of the names stays as it is
+// found.
+void write_names(Grid& names, Grid& details) {
     details.set_rows(names.rows() + 1);
     for (int row = 0; row < names.rows(); ++row) {
-        const std::string_view translated = names.cell(row, 1);
-        details.set_cell(row + 1, 0, translated.empty() ? names.cell(row, 0) : translated);
+        const int column = names.cell(row, 1).empty() ? 0 : 1;
+        names.make_current({row, column});
+        details.set_cell(row + 1, 0, names.cell(row, column));
     }
     details.set_fixed_rows(1);
     for (std::size_t field = 1; field < defaults_fields.size(); ++field) {

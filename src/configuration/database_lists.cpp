@@ -107,12 +107,13 @@ void list_gear(Screens& screens, std::string_view gear_type, Database& database)
 
 void list_gear_configurations(Screens& screens, std::string_view organization,
                               std::string_view gear_id, Database& database) {
+    constexpr std::string_view of_organization =
+        "SELECT DISTINCT tsrgrcfg.tsrgrcfg_org_id, tsrgrcfg.id_code, tsrgrcfg.name, "
+        "tsrgrcfg.tsrfldgr_is_number, tsrfldgr.tsrfldgr_is_number, tsrfldgr.id_code FROM tsrgrcfg, "
+        "tsrfldgr WHERE tsrgrcfg.tsrfldgr_is_number = tsrfldgr.tsrfldgr_is_number(+) AND "
+        "tsrgrcfg.tsrgrcfg_org_id = '";
     ask_keldar(screens.frmPreferencesSamples.AdodcGearConfiguration, screens.frmStart,
-               joined({"SELECT DISTINCT tsrgrcfg.tsrgrcfg_org_id, tsrgrcfg.id_code, tsrgrcfg.name, "
-                       "tsrgrcfg.tsrfldgr_is_number, tsrfldgr.tsrfldgr_is_number, tsrfldgr.id_code "
-                       "FROM tsrgrcfg, tsrfldgr WHERE tsrgrcfg.tsrfldgr_is_number = "
-                       "tsrfldgr.tsrfldgr_is_number(+) AND tsrgrcfg.tsrgrcfg_org_id = '",
-                       organization, "' AND tsrfldgr.id_code = '", gear_id,
+               joined({of_organization, organization, "' AND tsrfldgr.id_code = '", gear_id,
                        "' Order By tsrgrcfg.id_code"}),
                database);
 }

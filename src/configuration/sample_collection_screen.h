@@ -10,7 +10,7 @@ struct FrmPreferencesSamples : Screen {
         : Screen(desk, "frmPreferencesSamples",
                  "Setting Configuration File Sample Collection Procedures") {
         AdodcSampleCollection.bind(MSHFlexSampleCollection, bound::sample_procedures);
-        AdodcGear.bind(MSHFlexGear);
+        AdodcGear.bind(MSHFlexGear, bound::gear);
         AdodcGearConfiguration.bind(MSHFlexGearConfiguration, bound::gear_configurations);
         MSHFlexGear.set_column_widths({1300, 3300, 3500});
     }

@@ -27,6 +27,7 @@ namespace bound {
 
 inline constexpr BoundColumns trips{0, 2, 3, 1};
 inline constexpr BoundColumns sample_procedures{1, 2, 4};
+inline constexpr BoundColumns gear{0, 1, 2};
 inline constexpr BoundColumns gear_configurations{1, 2};
 inline constexpr BoundColumns projects{1, 2};
 inline constexpr BoundColumns persons{1, 2};

@@ -74,6 +74,7 @@ void Grid::keep_current_inside() {
 
 void Grid::set_fixed_rows(int rows) {
     fixed_rows_ = rows;
+    if (current_.row < rows && rows < this->rows()) current_.row = rows;
     changed();
 }
 

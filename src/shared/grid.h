@@ -88,6 +88,8 @@ class Grid : public PlacedField {
 
     int fixed_rows() const { return fixed_rows_; }
     int fixed_columns() const { return fixed_columns_; }
+
+    // The current cell leaves the rows that are fixed, as far as there are others.
     void set_fixed_rows(int rows);
 
     int column_width(int column) const;

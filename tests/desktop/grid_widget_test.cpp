@@ -110,6 +110,63 @@ TEST_F(DrawnGrid, AFixedRowNamesTheColumnsAndIsNotClicked) {
     EXPECT_EQ(clicks_, (std::vector<GridCell>{{1, 1}}));
 }
 
+TEST_F(DrawnGrid, ColumnsThatShareTheWidthFillItAndKeepAHiddenOneHidden) {
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    fill(3);
+    grid().set_column_width(2, 0);
+    widget_->use_all_width();
+    view_->follow();
+    EXPECT_EQ(widget_->cell_place({1, 1}).right(), widget_->viewport()->width() - 1);
+    EXPECT_TRUE(widget_->cell_place({1, 2}).isEmpty());
+    EXPECT_FALSE(widget_->horizontalScrollBar()->isVisible());
+}
+
+// The grid says more than there is room for; the texts need less.
+TEST_F(DrawnGrid, ColumnsThatShareTheWidthGiveWayDownToTheirTexts) {
+    widget_->use_all_width();
+    for (const int column : {0, 1, 2}) grid().set_column_width(column, 6000);
+    fill(2);
+    grid().set_cell(1, 1, "a text of some length, padded                                        ");
+    view_->follow();
+    EXPECT_EQ(widget_->horizontalScrollBar()->maximum(), 0);
+    const int needed = widget_->fontMetrics().horizontalAdvance("a text of some length, padded");
+    EXPECT_GT(widget_->cell_place({1, 1}).width(), needed);
+    EXPECT_EQ(widget_->cell_place({1, 2}).right(), widget_->viewport()->width() - 1);
+}
+
+// Whatever row it stands in.
+TEST_F(DrawnGrid, ColumnsThatShareTheWidthLookAtTheTextsOfAllRows) {
+    widget_->use_all_width();
+    fill(5000);
+    const int before = widget_->cell_place({0, 0}).width();
+    grid().set_cell(4999, 0, "the widest identifier of all");
+    view_->follow();
+    EXPECT_GT(widget_->cell_place({0, 0}).width(), before);
+}
+
+TEST_F(DrawnGrid, TextsTooLongToShareTheWidthAreScrolled) {
+    widget_->use_all_width();
+    fill(1);
+    for (const int column : {0, 1, 2}) grid().set_cell(0, column, std::string(60, 'm'));
+    view_->follow();
+    EXPECT_GT(widget_->horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(DrawnGrid, ABlankRowUnderAHeadingSaysThatNothingWasFoundAndIsClickedAllTheSame) {
+    widget_->set_found_none_text(QStringLiteral("No gear."));
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    grid().set_rows(2);
+    view_->follow();
+    EXPECT_EQ(widget_->accessibleDescription(), QStringLiteral("No gear."));
+    click({1, 0});
+    EXPECT_EQ(clicks_, (std::vector<GridCell>{{1, 0}}));
+    grid().set_cell(1, 1, "tube");
+    view_->follow();
+    EXPECT_EQ(widget_->accessibleDescription(), QString());
+}
+
 TEST_F(DrawnGrid, ArrowsMoveAndEnterAndSpaceClick) {
     fill(500);
     widget_->setFocus();

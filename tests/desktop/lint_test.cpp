@@ -13,6 +13,7 @@
 #include <map>
 
 #include "desktop/drawn_program.h"
+#include "desktop/wizard_roads.h"
 #include "platform/desktop/colours.h"
 #include "platform/desktop/grid_widget.h"
 #include "platform/desktop/plain_views.h"
@@ -73,8 +74,8 @@ void choose_columns(DrawnProgram& drawn) {
     });
 }
 
-const std::map<std::string, Road>& roads() {
-    static const std::map<std::string, Road> all{
+std::map<std::string, Road> all_roads() {
+    std::map<std::string, Road> all{
         {"start 1 logon", [](DrawnProgram&) {}},
         {"start 2 typed",
          [](DrawnProgram& drawn) {
@@ -147,6 +148,12 @@ const std::map<std::string, Road>& roads() {
              });
          }},
     };
+    for (const test::WizardRoad& road : test::wizard_roads()) all[road.name] = road.take;
+    return all;
+}
+
+const std::map<std::string, Road>& roads() {
+    static const std::map<std::string, Road> all = all_roads();
     return all;
 }
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The guided tour plays in a home of its own and leaves the load file and all its pictures there.
+# The guided tours play in a home of their own and leave the load file and all pictures there.
 #   tour_test.sh PLAYER
 set -uo pipefail
 . "$(dirname "$0")/../support/checks.sh"
@@ -19,15 +19,15 @@ export HOME=$work/user ODBCINI=$work/user/odbc.ini ODBCSYSINI=$work/system
 unset ODBCSEARCH DISPLAY WAYLAND_DISPLAY
 
 said=$("$root/tools/play_tour" "$player" tour 2>&1)
-is "it says that it passed and where everything is" "1 passed, 0 failed
+is "it says that it passed and where everything is" "2 passed, 0 failed
 The sample table is $work/tour/data/lake.txt
 The load file is    $work/tour/brooklander/voxoutfiles/lake.txt
 The pictures are in $work/tour/pictures" "$said"
 is "the load file is whole" "tilded lines" \
   "$(awk '!/^~.*\r$/ { wrong = 1 } END { print NR && !wrong ? "tilded lines" : NR " lines" }' \
     tour/brooklander/voxoutfiles/lake.txt)"
-is "each shot is a picture, and they are in the order of the tour" \
-  "$(sed -n 's/^shot \(.*\)/\1.png PNG/p' "$root/samples/tour.scn")" \
+is "each shot is a picture, and they are in the order of the tours" \
+  "$(sed -n 's/^shot \(.*\)/\1.png PNG/p' "$root"/samples/{tour,configuration}.scn)" \
   "$(cd tour/pictures && for file in *; do echo "$file $(head -c 4 "$file" | tail -c 3)"; done)"
 is "it logs on to a database of its own" "Database=$work/tour/brooklander/keldar.db" \
   "$(grep Database tour/odbc.ini 2>&1)"

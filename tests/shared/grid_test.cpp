@@ -132,6 +132,18 @@ TEST_F(GridRules, AGridThatIsTypedIntoGetsAllKeysAndLeavesSomeToTheGrid) {
     EXPECT_EQ(runs_, 0);
 }
 
+TEST_F(GridRules, TheCurrentCellLeavesRowsThatBecomeFixed) {
+    grid_.set_rows(1);
+    grid_.set_fixed_rows(1);
+    EXPECT_EQ(grid_.current(), (GridCell{0, 0}));
+    grid_.set_rows(3);
+    grid_.set_fixed_rows(1);
+    EXPECT_EQ(grid_.current(), (GridCell{1, 0}));
+    grid_.make_current({2, 1});
+    grid_.set_fixed_rows(1);
+    EXPECT_EQ(grid_.current(), (GridCell{2, 1}));
+}
+
 TEST_F(GridRules, ArrowsStayOutOfFixedColumns) {
     test::FrmTest other(test_.desk, "frmOther");
     Grid grid(other, "MSFlexFixed", {.columns = 3, .fixed_rows = 0, .fixed_columns = 1});

@@ -1,6 +1,7 @@
 // A program on a folder of its own, with a database and a help viewer that tests can watch.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,11 +22,12 @@ class WatchedDatabase : public Database {
     QueryResult run(const Query& query) override {
         queries.push_back(query);
         if (refuses) throw FatalFailure("The database refuses.");
-        return answer;
+        return answers ? answers(query) : answer;
     }
 
     bool refuses = false;
-    QueryResult answer{{"org_id", "name"}, {}};  // every answer has columns
+    QueryResult answer{{"org_id", "name"}, {}};        // every answer has columns
+    std::function<QueryResult(const Query&)> answers;  // where one for all does not do
     std::vector<std::string> connect_strings;
     std::vector<Query> queries;
 };

@@ -2,8 +2,11 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
+#include <memory>
 
 #include "platform/desktop/theme.h"
 #include "platform/desktop/windows.h"
@@ -20,6 +23,18 @@ Card* Draw::card(Panel& panel) {
     auto* const card = new Card(parent_of(panel));
     windows_.add(panel_view(panel, card));
     window_.holds(card);
+    return card;
+}
+
+Card* Draw::section(Panel& panel) {
+    Card* const section = card(panel);
+    section->drop_border();
+    return section;
+}
+
+Card* Draw::plain_card() {
+    auto* const card = new Card(window_.surface());
+    card->title()->hide();
     return card;
 }
 
@@ -130,6 +145,47 @@ GridWidget* Draw::grid(Grid& grid, const QString& name) {
     return widget;
 }
 
+GridWidget* Draw::choices(Grid& grid, const QString& name, const ListTexts& texts) {
+    GridWidget* const widget = this->grid(grid, name);
+    widget->use_all_width();
+    widget->set_empty_text(texts.waiting);
+    widget->set_found_none_text(texts.none);
+    return widget;
+}
+
+namespace {
+
+QString sentence_of(const Button& button, const std::vector<Draw::Needed>& needed,
+                    const QString& otherwise) {
+    if (button.enabled()) return {};
+    QStringList words;
+    for (const Draw::Needed& each : needed) {
+        if (each.value.empty() && each.chosen_from.seen()) words.push_back(each.words);
+    }
+    return words.isEmpty() ? otherwise : QStringLiteral("Still needed: ") + words.join(u", ");
+}
+
+}  // namespace
+
+QLabel* Draw::still_needed(Button& button, const std::vector<Needed>& needed,
+                           const QString& otherwise) {
+    QLabel* const note = text(QString(), parent_of(button));
+    note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // The fields outlive the note and go on telling of their changes.
+    const auto tell = std::make_shared<const std::function<void()>>(
+        [widget = QPointer<QLabel>(note), &button, needed, otherwise] {
+            if (widget) widget->setText(sentence_of(button, needed, otherwise));
+        });
+    const auto watch = [&tell](Field& field) { field.observe([tell] { (*tell)(); }); };
+    watch(button);
+    for (const Needed& each : needed) {
+        watch(each.value);
+        for (Field* at = &each.chosen_from; at != nullptr; at = at->container()) watch(*at);
+    }
+    (*tell)();
+    return note;
+}
+
 void Draw::begins_in(const Panel& panel, QWidget* control) {
     window_.begins(windows_.view_of(panel)->widget(), control);
 }
@@ -162,10 +218,59 @@ QHBoxLayout* row(std::initializer_list<QWidget*> widgets, Side packed_to) {
     return layout;
 }
 
-void keep_place(QWidget* widget) {
+namespace {
+
+class ShareWhileShown : public QObject {
+  public:
+    ShareWhileShown(QBoxLayout* layout, int item, int share, std::vector<QWidget*> widgets)
+        : QObject(widgets.front()),
+          layout_(layout),
+          item_(item),
+          share_(share),
+          widgets_(std::move(widgets)) {
+        for (QWidget* const widget : widgets_) widget->installEventFilter(this);
+        follow();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+            follow();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    void follow() {
+        const bool any = std::any_of(widgets_.begin(), widgets_.end(),
+                                     [](const QWidget* widget) { return !widget->isHidden(); });
+        layout_->setStretch(item_, any ? share_ : 0);
+    }
+
+    QBoxLayout* layout_;
+    int item_;
+    int share_;
+    std::vector<QWidget*> widgets_;
+};
+
+}  // namespace
+
+void share_while_shown(QBoxLayout* layout, int item, int share,
+                       std::initializer_list<QWidget*> widgets) {
+    new ShareWhileShown(layout, item, share, widgets);  // the first widget owns it
+}
+
+namespace {
+
+void retain_place(QWidget* widget, bool retain) {
     QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
+    policy.setRetainSizeWhenHidden(retain);
     widget->setSizePolicy(policy);
 }
+
+}  // namespace
+
+void keep_place(QWidget* widget) { retain_place(widget, true); }
+
+void leave_no_place(QWidget* widget) { retain_place(widget, false); }
 
 }  // namespace brooklander::desktop

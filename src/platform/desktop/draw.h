@@ -28,6 +28,12 @@ class Draw {
 
     Card* card(Panel& panel);
 
+    // A part of a card, with its title and without a border.
+    Card* section(Panel& panel);
+
+    // A card that is no field, for what a screen has outside of its panels.
+    Card* plain_card();
+
     // Labels: a caption says what stands beside it, and underlined, leads to it; a value is one
     // line; a note is a sentence or more; a heading is the largest text of its window.
     QLabel* caption(Label& label, char letter = no_letter);
@@ -59,6 +65,25 @@ class Draw {
     QComboBox* pick_list(EntryList& list, const QString& name);
     GridWidget* grid(Grid& grid, const QString& name);
 
+    // A grid to choose a row of: it uses the width that it has, and says a sentence while it waits
+    // for its rows, and another when it has been answered without any.
+    struct ListTexts {
+        QString waiting;
+        QString none;
+    };
+    GridWidget* choices(Grid& grid, const QString& name, const ListTexts& texts);
+
+    // What a button still waits for. While it is disabled, a note names those of the values that
+    // are empty, as long as what each is chosen from can be seen; where none of them is, it says
+    // `otherwise`. The note is empty while the button is enabled.
+    struct Needed {
+        Field& value;
+        Field& chosen_from;
+        QString words;
+    };
+    QLabel* still_needed(Button& button, const std::vector<Needed>& needed,
+                         const QString& otherwise = {});
+
     // What is drawn of a field hangs on another one, too.
     void follow_also(const Field& drawn, Field& other) { windows_.follow_also(drawn, other); }
 
@@ -84,7 +109,15 @@ class Draw {
 enum class Side { left, right };
 QHBoxLayout* row(std::initializer_list<QWidget*> widgets, Side packed_to = Side::left);
 
+// Gives an item of a layout its share of the room, counted as stretch, as long as one of the
+// widgets is there; a layout would keep the share of one that holds nothing.
+void share_while_shown(QBoxLayout* layout, int item, int share,
+                       std::initializer_list<QWidget*> widgets);
+
 // Keeps a widget's place free while it is hidden, so that nothing beside it jumps.
 void keep_place(QWidget* widget);
+
+// Gives it up again, where buttons come and go with what they are for.
+void leave_no_place(QWidget* widget);
 
 }  // namespace brooklander::desktop

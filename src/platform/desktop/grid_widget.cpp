@@ -10,11 +10,7 @@
 namespace brooklander::desktop {
 namespace {
 
-constexpr int cell_margin = 8;
-constexpr int widest_by_content = 260;  // a column is drawn wider only by hand
-constexpr int rows_to_measure = 40;
-constexpr qreal twips_of_a_pixel = 15;
-constexpr int usual_line = 16;  // pixels of a line of text that a pixel of a width was meant for
+constexpr int cell_margin = GridWidget::cell_margin;
 
 }  // namespace
 
@@ -49,6 +45,7 @@ void GridWidget::follow() {
     }
     read_page();
     viewport()->update();
+    setAccessibleDescription(sentence());
     if (!(current_ == before) && hasFocus() && QAccessible::isActive()) tell_current_cell();
 }
 
@@ -71,46 +68,6 @@ QFont GridWidget::caption_font() const {
     QFont smaller = font();
     if (smaller.pointSizeF() > 2) smaller.setPointSizeF(smaller.pointSizeF() - 1);
     return smaller;
-}
-
-// Where columns can get a caption, room for a short one is kept from the start, so that no column
-// moves under the mouse when its neighbour gets one.
-int GridWidget::least_width() const { return marks_ ? fontMetrics().averageCharWidth() * 12 : 0; }
-
-// As wide as the grid says, wider where headings and the first rows need it.
-void GridWidget::measure_columns() {
-    std::vector<int> widths(static_cast<std::size_t>(columns_), 0);
-    const qreal to_pixels = fontMetrics().height() / twips_of_a_pixel / usual_line;
-    const auto need = [this](const QString& text) {
-        return std::min(widest_by_content,
-                        fontMetrics().horizontalAdvance(text) + 2 * cell_margin + 1);
-    };
-    for (int column = 0; column < columns_; ++column) {
-        const int twips = grid_.column_width(column);
-        if (twips <= 0) continue;
-        widths[std::size_t(column)] =
-            std::max({static_cast<int>(std::lround(twips * to_pixels)), least_width(),
-                      need(fixed_rows_ > 0 ? heading_of(column) : QString::number(column + 1))});
-    }
-    RowCells cells;
-    const int last = std::min(rows_, rows_to_measure);
-    for (int row = fixed_rows_; row < last; ++row) {
-        grid_.read_row(row, cells);
-        for (int column = 0; column < columns_; ++column) {
-            int& width = widths[std::size_t(column)];
-            if (width > 0 && !cells[column].empty()) {
-                width = std::max(width, need(shown(cells[column])));
-            }
-        }
-    }
-    for (const auto& [column, width] : widths_by_hand_) {
-        if (column < columns_ && widths[std::size_t(column)] > 0) {
-            widths[std::size_t(column)] = width;
-        }
-    }
-    lefts_.assign(1, 0);
-    lefts_.reserve(widths.size() + 1);
-    for (const int width : widths) lefts_.push_back(lefts_.back() + width);
 }
 
 int GridWidget::row_pixels(int row) const {
@@ -153,8 +110,9 @@ void GridWidget::read_page() {
         grid_.read_row(row, cells);
         for (int column = first_column_; column < behind; ++column) {
             const QString text = shown(cells[column]);
-            shown_row.cut.push_back(fontMetrics().elidedText(
-                text, Qt::ElideRight, column_width(column) - 2 * cell_margin));
+            shown_row.cut.push_back(
+                fontMetrics().elidedText(shown(without_padding(cells[column])), Qt::ElideRight,
+                                         column_width(column) - 2 * cell_margin));
             shown_row.texts.push_back(text);
         }
         top += shown_row.height;
@@ -169,6 +127,7 @@ int GridWidget::columns_shown_to() const {
 
 QString GridWidget::heading_of(int column) const {
     if (fixed_rows_ > 0) return shown(grid_.cell(0, column));
+    if (shares_width_ && rows_ == 0) return {};  // it will be named when there are rows
     const QString& caption = column_marks_[std::size_t(column)].caption;
     const QString number = QString::number(column + 1);
     return caption.isEmpty() ? number : number + QStringLiteral("  ") + caption;
@@ -194,20 +153,42 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
     const Colours colours = own_colours();
     painter.fillRect(viewport()->rect(), colours.card);
-    if (data_rows() <= 0 && !empty_text_.isEmpty()) {
+    const QString says = sentence();
+    if (!says.isEmpty()) {
         painter.setPen(colours.quiet);
         painter.drawText(viewport()->rect().adjusted(16, 16 + heading_height(), -16, -16),
-                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
+                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, says);
     }
     painter.save();
     painter.setClipRect(row_heading_, heading_height(), viewport()->width(), viewport()->height());
-    for (const ShownRow& row : page_) paint_row(painter, colours, row);
+    for (const ShownRow& row : page_) {
+        if (says.isEmpty()) paint_row(painter, colours, row);
+    }
     painter.restore();
     paint_headings(painter, colours);
     if (hasFocus()) {
         painter.setPen(QPen(colours.accent, 2));
         painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    } else {
+        painter.setPen(colours.line);
+        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
     }
+}
+
+bool GridWidget::has_found_none() const {
+    if (found_none_text_.isEmpty() || fixed_rows_ == 0 || data_rows() != 1) return false;
+    RowCells cells;
+    grid_.read_row(fixed_rows_, cells);
+    for (int column = 0; column < columns_; ++column) {
+        if (!cells[column].empty()) return false;
+    }
+    return true;
+}
+
+// What the grid says in place of rows.
+QString GridWidget::sentence() const {
+    if (data_rows() <= 0) return empty_text_;
+    return has_found_none() ? found_none_text_ : QString();
 }
 
 QColor GridWidget::behind_column(const Colours& colours, int column) const {
@@ -246,12 +227,14 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
 
 void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const {
     painter.fillRect(0, 0, viewport()->width(), heading_height(), colours.page);
-    painter.fillRect(0, 0, row_heading_, viewport()->height(), colours.page);
     painter.setPen(colours.line);
     painter.drawLine(0, heading_height() - 1, viewport()->width(), heading_height() - 1);
+    if (shares_width_ && rows_ == 0) return;  // nothing is known of the columns yet
+    painter.fillRect(0, 0, row_heading_, viewport()->height(), colours.page);
     painter.drawLine(row_heading_ - 1, 0, row_heading_ - 1, viewport()->height());
+    const bool found_none = has_found_none();
     for (const ShownRow& row : page_) {
-        if (row.height <= 0) continue;
+        if (row.height <= 0 || found_none) continue;
         painter.setPen(colours.line);
         painter.drawLine(0, row.top + row.height - 1, row_heading_, row.top + row.height - 1);
         painter.setPen(colours.quiet);
@@ -287,6 +270,7 @@ void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const
 }
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
+    place_columns();
     fit_scroll_bars();
     read_page();
 }
@@ -309,7 +293,9 @@ void GridWidget::focusOutEvent(QFocusEvent* event) {
 
 void GridWidget::changeEvent(QEvent* event) {
     QAbstractScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange) follow();
+    if (event->type() != QEvent::FontChange) return;
+    letters_measured_ = false;
+    follow();
 }
 
 QRect GridWidget::cell_place(GridCell cell) const {

@@ -5,6 +5,7 @@
 #include <QAbstractScrollArea>
 #include <QColor>
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <map>
 #include <memory>
@@ -27,6 +28,8 @@ struct ColumnMark {
 // named there by the grid's fixed row; rows count from 1 below that.
 class GridWidget : public QAbstractScrollArea {
   public:
+    static constexpr int cell_margin = 8;  // left and right of a cell's text
+
     GridWidget(Grid& grid, QWidget* parent);
 
     // Called with what a user has done.
@@ -37,15 +40,24 @@ class GridWidget : public QAbstractScrollArea {
     // What stands in place of the rows while there are none.
     void set_empty_text(const QString& text) { empty_text_ = text; }
 
+    // What stands in place of the blank row of a query that has found none; the row can be clicked
+    // all the same.
+    void set_found_none_text(const QString& text) { found_none_text_ = text; }
+
+    // Makes the columns share the width that there is: each gets what its texts need, then what its
+    // heading needs and the grid says, and the last one gets the rest.
+    void use_all_width() { shares_width_ = true; }
+
     // Tells the columns apart; asked whenever the widget follows its grid.
     void set_column_marks(std::function<ColumnMark(int column)> marks);
 
     // Shows the grid as it is now.
     void follow();
 
-    // As QWidget says; the whole grid seldom fits.
-    QSize sizeHint() const override { return {480, 240}; }
-    QSize minimumSizeHint() const override { return {200, 120}; }
+    // As QWidget says; the whole grid seldom fits. One among several lists takes what room there
+    // is.
+    QSize sizeHint() const override { return shares_width_ ? minimumSizeHint() : QSize(480, 240); }
+    QSize minimumSizeHint() const override { return {200, shares_width_ ? 96 : 120}; }
 
     // Where a cell is in the viewport; a fixed row lies in the headings. Empty when it is not
     // shown.
@@ -110,6 +122,13 @@ class GridWidget : public QAbstractScrollArea {
     void show_current_cell();
     void measure();
     void measure_columns();
+    void place_columns();
+    std::vector<int> needs_of_texts();
+    void measure_letters();
+    int width_of_letters(std::string_view text) const;
+    void fill_width(std::vector<int>& widths) const;
+    bool has_found_none() const;
+    QString sentence() const;
     void fit_scroll_bars();
     void read_page();
     QString heading_of(int column) const;
@@ -123,6 +142,8 @@ class GridWidget : public QAbstractScrollArea {
     std::function<ColumnMark(int)> marks_;
     std::vector<ColumnMark> column_marks_;
     QString empty_text_;
+    QString found_none_text_;
+    bool shares_width_ = false;
 
     // The grid as it was when the widget last followed it.
     int rows_ = 0;
@@ -135,6 +156,10 @@ class GridWidget : public QAbstractScrollArea {
     int row_heading_ = 0;  // how wide the row numbers are
     int x_ = 0;            // how far it is scrolled to the right
     std::vector<int> lefts_{0};
+    std::vector<int> needs_;   // what the texts of each column need; 0 for a hidden one
+    std::vector<int> wishes_;  // with the headings, and what the grid says
+    std::array<int, 256> letters_{};
+    bool letters_measured_ = false;
     std::map<int, int> widths_by_hand_;
     std::vector<ShownRow> page_;
     int first_column_ = 0;

@@ -14,6 +14,11 @@
 #include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
+namespace {
+
+constexpr QChar dash(0x2013);  // stands where no value is set
+
+}  // namespace
 
 Card::Card(QWidget* parent)
     : QFrame(parent), head_(new QHBoxLayout), content_(new QVBoxLayout), title_(new QLabel(this)) {
@@ -30,6 +35,13 @@ Card::Card(QWidget* parent)
     content_->setSpacing(between_controls);
     whole->addLayout(head_);
     whole->addLayout(content_, 1);
+}
+
+void Card::drop_border() {
+    set_mark(*this, "card", false);
+    layout()->setContentsMargins(0, 0, 0, 0);
+    layout()->setSpacing(4);
+    title_->setFont(font_larger_by(0, QFont::DemiBold));
 }
 
 void Card::lead_to(QWidget* widget, char letter) {
@@ -51,7 +63,8 @@ void ValueLabel::set_whole_text(const QString& text) {
 }
 
 QSize ValueLabel::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text_) + 2, fontMetrics().height() + 4};
+    const QString says = text_.isEmpty() && dash_ ? QString(dash) : text_;
+    return {fontMetrics().horizontalAdvance(says) + 2, fontMetrics().height() + 4};
 }
 
 QSize ValueLabel::minimumSizeHint() const {
@@ -69,11 +82,11 @@ void ValueLabel::paintEvent(QPaintEvent* /*event*/) {
         painter.setBrush(tint(colours, *tint_));
         painter.drawRoundedRect(rect(), 4, 4);
     }
+    if (!is_set && !dash_) return;
     painter.setPen(is_set ? colours.text : colours.quiet);
     painter.drawText(
         rect(), Qt::AlignVCenter | (tint_ ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::TextSingleLine,
-        is_set ? fontMetrics().elidedText(text_, Qt::ElideRight, width())
-               : QStringLiteral("\u2013"));
+        is_set ? fontMetrics().elidedText(text_, Qt::ElideRight, width()) : QString(dash));
 }
 
 void ValueLabel::resizeEvent(QResizeEvent* /*event*/) { tell_in_tool_tip(); }

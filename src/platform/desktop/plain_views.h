@@ -27,6 +27,9 @@ class Card : public QFrame {
     // What lies beside the title, from left to right.
     QHBoxLayout* head() { return head_; }
 
+    // Leaves the title and what lies below it, as a part of the card around it.
+    void drop_border();
+
     // Has the title lead to a widget on the card by an underlined letter.
     void lead_to(QWidget* widget, char letter);
     char letter() const { return letter_; }
@@ -50,6 +53,9 @@ class ValueLabel : public QWidget {
     void set_whole_text(const QString& text);
     const QString& whole_text() const { return text_; }
 
+    // For a value beside another one, which says already that nothing is set.
+    void drop_dash() { dash_ = false; }
+
     // Stands behind the text while there is one.
     void set_tint(int number) { tint_ = number; }
 
@@ -64,6 +70,7 @@ class ValueLabel : public QWidget {
     void tell_in_tool_tip();
 
     QString text_;
+    bool dash_ = true;
     std::optional<int> tint_;
 };
 

@@ -117,26 +117,6 @@ Card* files_card(FrmStart& start, Draw& draw) {
     return card;
 }
 
-// Gives an item of a layout the room that is left, as long as its widget is there.
-class RoomWhileShown : public QObject {
-  public:
-    RoomWhileShown(QWidget* widget, QVBoxLayout* layout, int item)
-        : QObject(widget), layout_(layout), item_(item) {
-        widget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        constexpr int most_of_it = 100;
-        if (event->type() == QEvent::ShowToParent) layout_->setStretch(item_, most_of_it);
-        if (event->type() == QEvent::HideToParent) layout_->setStretch(item_, 0);
-        return QObject::eventFilter(watched, event);
-    }
-
-  private:
-    QVBoxLayout* layout_;
-    int item_;
-};
-
 }  // namespace
 
 void lay_out_start(FrmStart& start, Draw& draw) {
@@ -156,7 +136,8 @@ void lay_out_start(FrmStart& start, Draw& draw) {
     Card* const files = files_card(start, draw);
     files->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     page->addLayout(in_the_middle(files));
-    new RoomWhileShown(files, page, page->count() - 1);  // the card owns it
+    constexpr int most_of_it = 100;
+    share_while_shown(page, page->count() - 1, most_of_it, {files});
     page->addStretch();
 }
 

@@ -10,6 +10,11 @@ namespace brooklander::desktop {
 // A field's text, in the code page, as a widget takes it.
 QString shown(std::string_view text);
 
+// A text as the database keeps identifiers, without the blanks that it is padded with.
+constexpr std::string_view without_padding(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
 // What was typed, as fields hold it. A character outside the code page becomes `?`.
 std::string typed(const QString& text);
 

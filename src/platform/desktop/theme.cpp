@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QWidget>
 #include <array>
 
@@ -26,6 +26,7 @@ QMenu::item { padding: 6px 24px 6px 16px; border-radius: 4px; }
 QMenu::item:selected { background: %accent; color: %accentText; }
 QMenu::item:disabled { color: %faint; background: transparent; }
 QFrame[card="true"] { background: %card; border: 1px solid %line; border-radius: 6px; }
+QFrame[rule="true"] { background: %line; }
 QLabel { background: transparent; color: %text; }
 QLabel[title="true"] { color: %title; }
 QLabel[quiet="true"] { color: %quiet; }
@@ -86,6 +87,27 @@ QToolTip { background: %card; color: %text; border: 1px solid %edge; padding: 4p
     return sheet;
 }
 
+// The toolkit's style draws the marks of boxes and options in a line somewhat darker than the
+// window, which nobody sees on a dark one.
+class MarksInSight : public QProxyStyle {
+  public:
+    using QProxyStyle::QProxyStyle;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        const bool is_mark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+        if (!is_mark || button == nullptr) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            return;
+        }
+        constexpr int darker_by = 140;  // percent, in that style
+        QStyleOptionButton seen = *button;
+        seen.palette.setColor(QPalette::Window, own_colours().edge.lighter(darker_by));
+        QProxyStyle::drawPrimitive(element, &seen, painter, widget);
+    }
+};
+
 // Dresses the application anew when the desktop's palette has changed.
 class PaletteFollower : public QObject {
   public:
@@ -126,7 +148,7 @@ QFont font_larger_by(qreal points, QFont::Weight weight) {
 }
 
 void dress(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new MarksInSight(QStringLiteral("Fusion")));  // the application owns it
     QApplication::setWindowIcon(program_icon());
     new PaletteFollower(application);  // the application owns it
 }

@@ -1,0 +1,34 @@
+// What the steps of making a configuration have in common, so that they read as one wizard: the
+// file's name on top, the forms of what is chosen, and the button that moves on, at the lower
+// right.
+#pragma once
+
+#include <QGridLayout>
+#include <initializer_list>
+
+#include "platform/desktop/draw.h"
+
+namespace brooklander::desktop {
+
+// The title of the screen and, below it, the name of the configuration's file. One screen has a
+// panel for the name, the others a caption.
+void begin_step(Panel& panel, Label& name, Draw& draw);
+void begin_step(Label& caption, Label& name, Draw& draw);
+
+// Captions on the left, values behind them, and room for a button at the end of each row.
+QGridLayout* chosen_form();
+
+// Adds a row to such a form: an id, with its name behind it where there is one. `clear` may be
+// null.
+struct Chosen {
+    Label& caption;
+    Label& value;
+    Label* name = nullptr;
+    Button* clear = nullptr;
+};
+void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw);
+
+// What is on the left, the note on what is still needed, and the button.
+QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button);
+
+}  // namespace brooklander::desktop
