@@ -15,7 +15,7 @@ Program::Program(Platform platform) : platform_(platform), screens_(platform.fil
     wire_conversion(screens_, platform_);
     wire_configuration(screens_, platform_);
     wire_characteristics(screens_, platform_);
-    wire_loggers(screens_);
+    wire_loggers(screens_, platform_);
 }
 
 void Program::start() { screens_.frmStart.show(); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "characteristics/defaults_layout.h"
+#include "shared/grid_typing.h"
 #include "shared/text.h"
 
 namespace brooklander {
@@ -168,26 +169,16 @@ void apply_to_all(Details& details, const DetailChoice& choice) {
 
 bool type_into_details(Details& details, Key key) {
     Grid& grid = details.MSFlexDetails;
-    const GridCell cell = grid.current();
-    if (cell.row < grid.fixed_rows()) return false;
-    std::string text(grid.current_text());
-    switch (key.name) {
-        case Key::Name::erase: empty_cell(grid); return true;
-        case Key::Name::backspace:
-            if (text.empty()) return true;
-            text.pop_back();
-            break;
-        case Key::Name::enter: go_down(grid); return true;
-        case Key::Name::character: text += key.character; break;
-        case Key::Name::up:
-        case Key::Name::down:
-        case Key::Name::left:
-        case Key::Name::right:
-        case Key::Name::tab:
-        case Key::Name::escape: return false;
+    if (grid.current().row < grid.fixed_rows()) return false;
+    if (key.name == Key::Name::erase) {
+        empty_cell(grid);
+        return true;
     }
-    grid.set_cell(cell.row, cell.column, text);
-    return true;
+    if (key.name == Key::Name::enter) {
+        go_down(grid);
+        return true;
+    }
+    return type_into_current_cell(grid, key);
 }
 
 }  // namespace brooklander

@@ -27,12 +27,7 @@ void chkTaxa_Click(FrmCharacteristics& translation);
 // it does over a quote in the text.
 void cmdDisplay_Click(Screens& screens, Database& database);
 
-// Picks a match.
-void cmbCharacteristics_Click(FrmCharacteristics& translation);
-
-// Offers, refuses and accepts the picked translation.
-void cmdChange_Click(FrmCharacteristics& translation);
-void cmdNo_Click(FrmCharacteristics& translation);
+// Accepts the picked translation. To pick and offer one, see name_translation.h.
 void cmdYes_Click(FrmCharacteristics& translation);
 
 // Goes on to the details with a row for each name, translated or not. A FatalFailure when the

@@ -2,8 +2,10 @@
 
 #include "characteristics/detail_choices.h"
 #include "characteristics/details.h"
+#include "characteristics/name_translation.h"
 #include "characteristics/procedures_and_units.h"
 #include "characteristics/source_selection.h"
+#include "characteristics/taxon_translation.h"
 #include "characteristics/translation.h"
 #include "shared/workspace.h"
 
@@ -21,6 +23,12 @@ void wire_source(Screens& screens, Platform& platform) {
     source.cmdView.on_click = [&] { cmdView_Click(screens, source, platform.files); };
 }
 
+void wire_offer(NameTranslation& translation) {
+    translation.cmbCharacteristics.on_click = [&] { cmbCharacteristics_Click(translation); };
+    translation.cmdChange.on_click = [&] { cmdChange_Click(translation); };
+    translation.cmdNo.on_click = [&] { cmdNo_Click(translation); };
+}
+
 void wire_translation(Screens& screens, Platform& platform) {
     FrmCharacteristics& translation = screens.frmCharacteristics;
     translation.mnuExit.on_click = [&] { mnuExit_Click(screens, translation); };
@@ -30,11 +38,17 @@ void wire_translation(Screens& screens, Platform& platform) {
     translation.chkTaxa.on_click = [&] { chkTaxa_Click(translation); };
     translation.chkNoTaxa.on_click = [&] { chkNoTaxa_Click(translation); };
     translation.cmdDisplay.on_click = [&] { cmdDisplay_Click(screens, platform.database); };
-    translation.cmbCharacteristics.on_click = [&] { cmbCharacteristics_Click(translation); };
-    translation.cmdChange.on_click = [&] { cmdChange_Click(translation); };
+    wire_offer(translation);
     translation.cmdYes.on_click = [&] { cmdYes_Click(translation); };
-    translation.cmdNo.on_click = [&] { cmdNo_Click(translation); };
     translation.cmdNext.on_click = [&] { cmdNext_Click(screens, platform); };
+}
+
+void wire_taxa(Screens& screens, Database& database) {
+    FrmSubjectTaxon& taxa = screens.frmSubjectTaxon;
+    taxa.MSFlexChar.on_click = [&] { MSFlexChar_Click(taxa); };
+    taxa.cmdDisplay.on_click = [&] { cmdDisplay_Click(screens, taxa, database); };
+    wire_offer(taxa);
+    taxa.cmdYes.on_click = [&] { cmdYes_Click(taxa); };
 }
 
 void wire_choices(FrmCharacteristicDetails& details) {
@@ -97,6 +111,7 @@ void wire_details(Screens& screens, Platform& platform) {
 void wire_characteristics(Screens& screens, Platform& platform) {
     wire_source(screens, platform);
     wire_translation(screens, platform);
+    wire_taxa(screens, platform.database);
     wire_details(screens, platform);
 }
 

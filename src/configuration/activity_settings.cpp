@@ -8,6 +8,7 @@
 #include "shared/text.h"
 #include "shared/workspace.h"
 #include "sweeps/keldar.h"
+#include "sweeps/reset_screens.h"
 
 namespace brooklander {
 namespace {
@@ -61,8 +62,7 @@ void prepare_sample_collection(Screens& screens) {
 void prepare_start_screen(FrmStart& start) {
     start.chkPreferences.set_ticked(true);
     start.frameLog.hide();
-    start.optLogNo.set_on(false);
-    start.optLogYes.set_on(false);
+    clear_logger_options(start);
     start.cmdView.enable();
 }
 

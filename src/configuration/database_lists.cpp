@@ -15,12 +15,6 @@ std::string joined(std::initializer_list<std::string_view> parts) {
     return statement;
 }
 
-void refresh(DataSource& source, Screens& screens, std::string_view statement, Database& database) {
-    connect_to_keldar(source, screens.frmStart);
-    source.set_record_source(statement);
-    source.refresh(database);
-}
-
 }  // namespace
 
 std::string organization_id(const FrmPreferencesSettings& settings) {
@@ -28,51 +22,52 @@ std::string organization_id(const FrmPreferencesSettings& settings) {
 }
 
 void list_organizations(Screens& screens, Database& database) {
-    refresh(screens.frmPreferencesSettings.AdodcOrganization, screens,
-            "Select org_id, name From tsmorgan Where org_id < 'ZZZZZZZZ' or org_id > 'ZZZZZZZZ' "
-            "Order By org_id",
-            database);
+    ask_keldar(screens.frmPreferencesSettings.AdodcOrganization, screens.frmStart,
+               organizations_by_id, database);
 }
 
 void list_trips(Screens& screens, std::string_view organization, Database& database) {
-    refresh(screens.frmPreferencesSettings.AdodcTrip, screens,
-            joined({"SELECT DISTINCT tsrtrip.id_code, tsrtrip.tsrtrip_org_id, tsrtrip.name, "
-                    "tsrtrip.tsrtrip_is_number from tsrtrip WHERE tsrtrip.tsrtrip_org_id = '",
-                    organization, "'"}),
-            database);
+    ask_keldar(screens.frmPreferencesSettings.AdodcTrip, screens.frmStart,
+               joined({"SELECT DISTINCT tsrtrip.id_code, tsrtrip.tsrtrip_org_id, tsrtrip.name, "
+                       "tsrtrip.tsrtrip_is_number from tsrtrip WHERE tsrtrip.tsrtrip_org_id = '",
+                       organization, "'"}),
+               database);
 }
 
 void list_procedures(Screens& screens, std::string_view organization, Database& database) {
     FrmPreferencesSamples& samples = screens.frmPreferencesSamples;
     samples.MSHFlexSampleCollection.set_column_widths({1300, 3800, 3000});
-    refresh(samples.AdodcSampleCollection, screens,
-            joined({"SELECT tsrfldpr.tsrfldpr_org_id, tsrfldpr.id_code, tsrfldpr.name, "
-                    "tsrfldpr.tsrfldpr_is_number, tsrfldpr.fld_gear_type_name FROM tsrfldpr WHERE "
-                    "tsrfldpr.tsrfldpr_org_id = '",
-                    organization, "' Order By tsrfldpr.id_code"}),
-            database);
+    ask_keldar(
+        samples.AdodcSampleCollection, screens.frmStart,
+        joined({"SELECT tsrfldpr.tsrfldpr_org_id, tsrfldpr.id_code, tsrfldpr.name, "
+                "tsrfldpr.tsrfldpr_is_number, tsrfldpr.fld_gear_type_name FROM tsrfldpr WHERE "
+                "tsrfldpr.tsrfldpr_org_id = '",
+                organization, "' Order By tsrfldpr.id_code"}),
+        database);
 }
 
 void list_sample_transports(Screens& screens, std::string_view organization, Database& database) {
     FrmPreferencesSampleOption& options = screens.frmPreferencesSampleOption;
     options.MSHFlexSampleTransportation.set_column_widths({1300, 3400});
-    refresh(options.AdodcSampleTransportation, screens,
-            joined({"SELECT DISTINCT tsrsdp.tsrsdp_org_id, tsrsdp.id_code, tsrsdp.name FROM tsrsdp "
-                    "WHERE tsrsdp.tsrsdp_org_id = '",
-                    organization, "' Order By tsrsdp.id_code"}),
-            database);
+    ask_keldar(
+        options.AdodcSampleTransportation, screens.frmStart,
+        joined({"SELECT DISTINCT tsrsdp.tsrsdp_org_id, tsrsdp.id_code, tsrsdp.name FROM tsrsdp "
+                "WHERE tsrsdp.tsrsdp_org_id = '",
+                organization, "' Order By tsrsdp.id_code"}),
+        database);
 }
 
 void list_persons(Screens& screens, std::string_view organization, Database& database) {
     FrmPreferencesSampleOption& options = screens.frmPreferencesSampleOption;
     options.MSHFlexPerson.set_column_widths({2500, 2500});
-    refresh(options.AdodcPerson, screens,
-            joined({"SELECT DISTINCT "
-                    "tsmpersn.tsmpersn_org_id,tsmpersn.last_name,tsmpersn.first_name,tsmpersn."
-                    "active_indicatr_cd FROM tsmpersn WHERE tsmpersn.active_indicatr_cd = 'Y' and "
-                    "tsmpersn.tsmpersn_org_id = '",
-                    organization, "' Order By tsmpersn.last_name"}),
-            database);
+    ask_keldar(
+        options.AdodcPerson, screens.frmStart,
+        joined({"SELECT DISTINCT "
+                "tsmpersn.tsmpersn_org_id,tsmpersn.last_name,tsmpersn.first_name,tsmpersn."
+                "active_indicatr_cd FROM tsmpersn WHERE tsmpersn.active_indicatr_cd = 'Y' and "
+                "tsmpersn.tsmpersn_org_id = '",
+                organization, "' Order By tsmpersn.last_name"}),
+        database);
 }
 
 void list_projects(Screens& screens, std::string_view organization, std::string_view trip_number,
@@ -94,19 +89,20 @@ void list_projects(Screens& screens, std::string_view organization, std::string_
                 "tsmproj.tsmproj_org_id AND tsmproj.tsmproj_org_id = '",
                 organization, "' AND tsrtpa.tsrtrip_is_number = '", trip_number,
                 "' Order By tsmproj.identification_cd"});
-    refresh(options.AdodcProjects, screens, trip_number.empty() ? of_organization : of_trip,
-            database);
+    ask_keldar(options.AdodcProjects, screens.frmStart,
+               trip_number.empty() ? of_organization : of_trip, database);
 }
 
 void list_gear(Screens& screens, std::string_view gear_type, Database& database) {
-    refresh(screens.frmPreferencesSamples.AdodcGear, screens,
-            joined({"SELECT DISTINCT tsrfldgr.id_code, tsrfldgr.type_name, tsrfldgr.name, "
-                    "tsrfldpr.fld_gear_type_name from tsrfldgr, tsrfldpr WHERE tsrfldgr.type_name "
-                    "= '",
-                    gear_type,
-                    "' And tsrfldgr.type_name = tsrfldpr.fld_gear_type_name Order By "
-                    "tsrfldgr.id_code"}),
-            database);
+    ask_keldar(
+        screens.frmPreferencesSamples.AdodcGear, screens.frmStart,
+        joined({"SELECT DISTINCT tsrfldgr.id_code, tsrfldgr.type_name, tsrfldgr.name, "
+                "tsrfldpr.fld_gear_type_name from tsrfldgr, tsrfldpr WHERE tsrfldgr.type_name "
+                "= '",
+                gear_type,
+                "' And tsrfldgr.type_name = tsrfldpr.fld_gear_type_name Order By "
+                "tsrfldgr.id_code"}),
+        database);
 }
 
 void list_gear_configurations(Screens& screens, std::string_view organization,
@@ -116,10 +112,10 @@ void list_gear_configurations(Screens& screens, std::string_view organization,
         "tsrgrcfg.tsrfldgr_is_number, tsrfldgr.tsrfldgr_is_number, tsrfldgr.id_code FROM tsrgrcfg, "
         "tsrfldgr WHERE tsrgrcfg.tsrfldgr_is_number = tsrfldgr.tsrfldgr_is_number(+) AND "
         "tsrgrcfg.tsrgrcfg_org_id = '";
-    refresh(screens.frmPreferencesSamples.AdodcGearConfiguration, screens,
-            joined({of_organization, organization, "' AND tsrfldgr.id_code = '", gear_id,
-                    "' Order By tsrgrcfg.id_code"}),
-            database);
+    ask_keldar(screens.frmPreferencesSamples.AdodcGearConfiguration, screens.frmStart,
+               joined({of_organization, organization, "' AND tsrfldgr.id_code = '", gear_id,
+                       "' Order By tsrgrcfg.id_code"}),
+               database);
 }
 
 }  // namespace brooklander

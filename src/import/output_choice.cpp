@@ -59,8 +59,7 @@ void cmdYes_Click(Screens& screens) {
 }
 
 void forget_file_kind(FrmStart& start) {
-    start.optLogNo.set_on(false);
-    start.optLogYes.set_on(false);
+    clear_logger_options(start);
     start.chkPreferences.set_ticked(false);
 }
 

@@ -4,13 +4,13 @@
 #include "import/import_table.h"
 #include "import/output_choice.h"
 #include "platform/code_page.h"
+#include "sweeps/reset_screens.h"
 
 namespace brooklander {
 namespace {
 
 void reset_selection(FrmStart& start) {
-    start.optLogYes.set_on(false);
-    start.optLogNo.set_on(false);
+    clear_logger_options(start);
     start.frameLog.hide();
     start.lblSelectedFile.clear_text();
     start.cmdView.disable();

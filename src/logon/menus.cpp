@@ -1,5 +1,6 @@
 #include "logon/menus.h"
 
+#include "sweeps/keldar.h"
 #include "sweeps/reset_screens.h"
 
 namespace brooklander {
@@ -53,9 +54,7 @@ void mnuLogger_Click(Screens& screens, Database& database) {
     FrmDataLogger& logger = screens.frmDataLogger;
     start.hide();
     logger.show();
-    // The logger set-up gives its data sources the bare name, where other screens say `DSN=keldar`.
-    logger.AdodcOrganization.connect("keldar", start.txtOracleID.text(),
-                                     start.txtOraclePassWord.text());
+    connect_to_keldar_by_name(logger.AdodcOrganization, start);
     logger.AdodcOrganization.set_record_source(
         "Select org_id, name From tsmorgan Where org_id <> 'ZZZZZZZZ'");
     logger.AdodcOrganization.refresh(database);

@@ -61,8 +61,10 @@ void Grid::make_current(GridCell cell) {
                            ", column " + std::to_string(cell.column + 1) + ".");
     }
     if (current_ == cell) return;
+    if (on_leave) on_leave(current_);
     current_ = cell;
     changed();
+    if (on_enter) on_enter(current_);
 }
 
 void Grid::keep_current_inside() {

@@ -56,6 +56,10 @@ class Grid : public PlacedField {
     // In grids that are typed into: what a key does there. False for a key that does what it does
     // in other grids.
     std::function<bool(Key)> on_key;
+    // When another cell becomes the current one, by a user or by a step: for the one that was, and
+    // then, the other being current, for the one that is. A table that shrinks runs neither.
+    std::function<void(GridCell)> on_leave;
+    std::function<void(GridCell)> on_enter;
 
     // Reading. A cell outside the grid reads empty; texts live until the grid changes.
     int rows() const { return cells_.rows(); }

@@ -15,11 +15,17 @@ namespace workspace {
 inline constexpr std::string_view root = "c:\\brooklander";
 inline constexpr std::string_view converted_files = "c:\\brooklander\\voxoutfiles\\";
 inline constexpr std::string_view batch_files = "c:\\brooklander\\batchoutfiles\\";
+inline constexpr std::string_view logger_files = "c:\\brooklander\\logoutfiles\\";
 inline constexpr std::string_view configurations = "c:\\brooklander\\preferences\\";
 inline constexpr std::string_view characteristics = "c:\\brooklander\\characteristics\\";
 inline constexpr std::string_view notices = "c:\\brooklander\\voxconfiguration\\";
 inline constexpr std::string_view persons = "c:\\brooklander\\person\\";
 inline constexpr std::string_view help_file = "c:\\brooklander\\BROOKLANDER.HLP";
+
+// Of an older installation; the logger screens that name them have kept them.
+inline constexpr std::string_view older_root = "c:\\fenwater";
+inline constexpr std::string_view portable_logger_files = "c:\\fenwater\\batchfile\\";
+inline constexpr std::string_view older_help_file = "c:\\fenwater\\FENwater.HLP";
 
 }  // namespace workspace
 

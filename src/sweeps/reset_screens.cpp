@@ -40,6 +40,11 @@ void reset(FrmPreferencesSampleOption& options) {
     options.cmdNext.disable();
 }
 
+void clear_logger_options(FrmStart& start) {
+    start.optLogYes.set_on(false);
+    start.optLogNo.set_on(false);
+}
+
 void clear_options(FrmPreferences& preferences) {
     preferences.optBrookLanderEdit.set_on(false);
     preferences.optBrooklanderNew.set_on(false);

@@ -1,4 +1,5 @@
-// Taking the screens of the configurations back to where work on one begins.
+// Taking the screens of the configurations back to where work on one begins, and what else several
+// subjects take back.
 #pragma once
 
 #include "screens.h"
@@ -26,6 +27,9 @@ void reset(FrmPreferencesSamples& samples);
 // The depth unit, both projects, the person, the sample transport, and the three boxes: feet,
 // meters, characteristics.
 void reset(FrmPreferencesSampleOption& options);
+
+// The start screen knows of no file whether it is a data logger's.
+void clear_logger_options(FrmStart& start);
 
 // None of the manager's four options is chosen.
 void clear_options(FrmPreferences& preferences);
