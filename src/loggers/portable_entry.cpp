@@ -69,6 +69,10 @@ void cmdLinesContinue_Click(Portable& portable) {
     results.set_focus();
 }
 
+bool is_file_name(std::string_view text) {
+    return !trim(text).empty() && text.find_first_of("\\/:?*\"<>|") == std::string_view::npos;
+}
+
 void cmdBack_Click(Portable& portable) {
     portable.frameResults.hide();
     show_labels(portable, true);

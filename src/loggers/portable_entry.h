@@ -1,6 +1,8 @@
 // Results of a portable logger, typed in by hand and appended to a file.
 #pragma once
 
+#include <string_view>
+
 #include "platform/files.h"
 #include "screens.h"
 
@@ -24,6 +26,10 @@ void enter_cell(Grid& grid, GridCell cell);
 
 // Leaving a label takes the text of its cell over as the label of its data line.
 void leave_label(FrmPortableDataLogger& portable, GridCell cell);
+
+// Whether a text can name the file: one of a folder and not a path to another, of characters that a
+// name may hold. Save waits for such a name.
+bool is_file_name(std::string_view text);
 
 // Appends the grid to the file named in the box, in a folder that is made where it is missing. A
 // FatalFailure when the file cannot be written.

@@ -7,7 +7,6 @@
 #include "loggers/logger_selection.h"
 #include "loggers/portable_entry.h"
 #include "shared/grid_typing.h"
-#include "shared/text.h"
 #include "shared/workspace.h"
 
 namespace brooklander {
@@ -97,7 +96,7 @@ void wire_portable(FrmPortableDataLogger& portable, Platform& platform) {
     portable.cmdLinesContinue.on_click = [&] { cmdLinesContinue_Click(portable); };
     portable.cmdBack.on_click = [&] { cmdBack_Click(portable); };
     portable.txtFileName.on_change = [&] {
-        portable.cmdSave.set_enabled(!trim(portable.txtFileName.text()).empty());
+        portable.cmdSave.set_enabled(is_file_name(portable.txtFileName.text()));
     };
     portable.cmdSave.on_click = [&] { cmdSave_Click(portable, platform.files); };
     portable.chkDataYes.on_click = [&] { chkDataYes_Click(portable); };
