@@ -24,7 +24,12 @@
 namespace brooklander {
 
 struct Screens {
-    explicit Screens(Files& files) : desk(files) {}
+    // Both out of line: making and unmaking a thousand fields is much code for every source that
+    // has screens.
+    explicit Screens(Files& files);
+    ~Screens();
+    Screens(const Screens&) = delete;
+    Screens& operator=(const Screens&) = delete;
 
     Desk desk;
 
