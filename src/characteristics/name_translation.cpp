@@ -12,7 +12,7 @@ std::string take_clicked_name(NameTranslation& translation) {
     translation.frameAutoTranslate.hide();
     Grid& names = translation.MSFlexChar;
     names.make_current({names.current().row, 0});
-    const std::string name(trim(names.current_text()));
+    std::string name(trim(names.current_text()));
     translation.txtCharacteristic.set_text(name);
     translation.lblSelectedCharacteristic.set_text(name);
     begin_search(translation);
