@@ -5,7 +5,6 @@
 
 #include "import/import_table.h"
 #include "import/output_choice.h"
-#include "platform/code_page.h"
 
 namespace brooklander {
 namespace {
@@ -61,8 +60,7 @@ void Dir1_Change(FrmCharSource& source) {
 void Dir1_Click(FrmCharSource& source) {
     source.lblAvailableFiles.show();
     source.lstImportFileBox.show();
-    const std::string clicked = source.Dir1.entry_path(*source.Dir1.selected());
-    if (!same_but_for_case(clicked, source.Dir1.path())) source.Dir1.set_path(clicked);
+    source.Dir1.open_selected();
 }
 
 void lstImportFileBox_Click(Screens& screens, FrmCharSource& source) {

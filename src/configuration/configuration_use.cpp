@@ -90,9 +90,7 @@ void list_group(Screens& screens, Database& database) {
     FrmImport& values = screens.frmImport;
     const std::string group = screens.frmPreferencesCharacteristics.lblChar.text();
     const GroupQuery query = group_query(values, group, trim(preferences.lblOrganization.text()));
-    connect_to_keldar(query.source, screens.frmStart);
-    query.source.set_record_source(query.statement);
-    query.source.refresh(database);
+    ask_keldar(query.source, screens.frmStart, query.statement, database);
 
     const bool of_habitat = group == "S" || group == "U";
     if (of_habitat) {

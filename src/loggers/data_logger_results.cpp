@@ -4,7 +4,6 @@
 #include <string>
 
 #include "loggers/date_pictures.h"
-#include "platform/code_page.h"
 #include "shared/text.h"
 #include "shared/workspace.h"
 
@@ -68,11 +67,7 @@ void dirLoggerFile_Change(FrmDataLoggerResults& results) {
     forget_selection(results);
 }
 
-void dirLoggerFile_Click(FrmDataLoggerResults& results) {
-    FolderList& folders = results.dirLoggerFile;
-    const std::string clicked = folders.entry_path(*folders.selected());
-    if (!same_but_for_case(clicked, folders.path())) folders.set_path(clicked);
-}
+void dirLoggerFile_Click(FrmDataLoggerResults& results) { results.dirLoggerFile.open_selected(); }
 
 void fileLogger_Click(FrmDataLoggerResults& results) {
     const std::string name(trim(results.fileLogger.text()));

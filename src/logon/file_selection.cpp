@@ -3,7 +3,6 @@
 #include "import/column_assignment.h"
 #include "import/import_table.h"
 #include "import/output_choice.h"
-#include "platform/code_page.h"
 #include "sweeps/reset_screens.h"
 
 namespace brooklander {
@@ -65,8 +64,7 @@ void Dir1_Click(FrmStart& start) {
     start.lblAvailableFiles.show();
     start.lstImportFileBox.show();
     start.lstImportFileBox.enable();
-    const std::string clicked = start.Dir1.entry_path(*start.Dir1.selected());
-    if (!same_but_for_case(clicked, start.Dir1.path())) start.Dir1.set_path(clicked);
+    start.Dir1.open_selected();
 }
 
 void lstImportFileBox_Click(Screens& screens) {

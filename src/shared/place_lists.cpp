@@ -70,6 +70,11 @@ void FolderList::read(const std::string& folder) {
     set_entries(std::move(shown_entries));
 }
 
+void FolderList::open_selected() {
+    const std::string clicked = entry_path(*selected());
+    if (!same_but_for_case(clicked, path())) set_path(clicked);
+}
+
 std::string FolderList::entry_path(std::size_t index) const {
     const std::vector<std::string> line = ancestors_and_self(path());
     return index < line.size() ? line[index] : joined(path(), entry(index));

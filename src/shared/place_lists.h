@@ -48,6 +48,10 @@ class FolderList : public PlaceList {
     void set_path(std::string_view path);
     const std::string& path() const { return text(); }
 
+    // Goes to the selected entry, if that is another folder than the one shown. What a click does
+    // where one click opens a folder.
+    void open_selected();
+
     // The path of an entry in full.
     std::string entry_path(std::size_t index) const;
 
