@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "platform/code_page.h"
@@ -39,6 +40,9 @@ constexpr int first_year_of_this_century = 30;  // two digits below it mean 20yy
 constexpr std::array<std::string_view, 12> months{"JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
                                                   "MAY",       "JUNE",     "JULY",     "AUGUST",
                                                   "SEPTEMBER", "OCTOBER",  "NOVEMBER", "DECEMBER"};
+
+constexpr std::array<std::string_view, 7> weekdays{"MONDAY", "TUESDAY",  "WEDNESDAY", "THURSDAY",
+                                                   "FRIDAY", "SATURDAY", "SUNDAY"};
 
 bool is_digit(char character) { return character >= '0' && character <= '9'; }
 bool is_letter(char character) { return character >= 'A' && character <= 'Z'; }
@@ -106,11 +110,12 @@ std::optional<Date> date_of(Number year, int month, int day) {
     return Date{year.value, month, day};
 }
 
-// The month from 1 on; 0 for a word that names none.
-int month_named(std::string_view word) {
-    for (std::size_t month = 0; month < months.size(); ++month) {
-        if (word == months[month] || word == left(months[month], 3)) {
-            return static_cast<int>(month) + 1;
+// The place of a name, written whole or by its first three letters, from 1 on; 0 where it is none
+// of these.
+int place_of(std::string_view word, std::span<const std::string_view> names) {
+    for (std::size_t place = 0; place < names.size(); ++place) {
+        if (word == names[place] || word == left(names[place], 3)) {
+            return static_cast<int>(place) + 1;
         }
     }
     return 0;
@@ -119,7 +124,7 @@ int month_named(std::string_view word) {
 constexpr std::string_view signs_around_a_name = " ,-";
 
 std::optional<Date> date_behind_month(Reader& reader) {
-    const int month = month_named(reader.word());
+    const int month = place_of(reader.word(), months);
     if (!reader.pass_all(signs_around_a_name)) return std::nullopt;
     const auto day = reader.number();
     if (!day || !reader.pass_all(signs_around_a_name)) return std::nullopt;
@@ -129,7 +134,7 @@ std::optional<Date> date_behind_month(Reader& reader) {
 
 std::optional<Date> date_behind_day(int day, Reader& reader) {
     if (!reader.pass_all(signs_around_a_name)) return std::nullopt;
-    const int month = month_named(reader.word());
+    const int month = place_of(reader.word(), months);
     if (!reader.pass_all(signs_around_a_name)) return std::nullopt;
     const auto year = reader.number();
     return year ? date_of(*year, month, day) : std::nullopt;
@@ -148,7 +153,14 @@ std::optional<Date> date_in_numbers(Number first, char sign, Reader& reader) {
     return date_of(*third, month, day);
 }
 
+// A day of the week in front says nothing that the date does not; it is passed, right or wrong.
+void pass_weekday(Reader& reader) {
+    Reader behind = reader;
+    if (place_of(behind.word(), weekdays) > 0 && behind.pass_all(" ,")) reader = behind;
+}
+
 std::optional<Date> date_in(Reader& reader) {
+    pass_weekday(reader);
     if (is_letter(reader.next())) return date_behind_month(reader);
     const auto first = reader.number();
     if (!first) return std::nullopt;
@@ -169,17 +181,24 @@ std::optional<int> hour_by_half(int hour, std::string_view half) {
     return hour % 12 + (after_noon ? 12 : 0);
 }
 
+// A part of a time: one digit or two.
+std::optional<int> time_part(Reader& reader) {
+    const auto number = reader.number();
+    if (!number || number->digits > 2) return std::nullopt;
+    return number->value;
+}
+
 // A time to the text's end.
 std::optional<Time> time_in(Reader reader) {
-    const auto hour = reader.number();
+    const auto hour = time_part(reader);
     if (!hour) return std::nullopt;
-    Time time{.hour = hour->value};
+    Time time{.hour = *hour};
     bool has_minutes = false;
     for (int Time::*const part : {&Time::minute, &Time::second}) {
         if (!reader.pass(':')) break;
-        const auto number = reader.number();
-        if (!number || number->value > 59) return std::nullopt;
-        time.*part = number->value;
+        const auto number = time_part(reader);
+        if (!number || *number > 59) return std::nullopt;
+        time.*part = *number;
         has_minutes = true;
     }
     reader.pass_all(" ");

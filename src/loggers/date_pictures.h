@@ -4,12 +4,12 @@
 // with a time behind it:
 //
 //   6/14/2004  6-14-04       month, day, year, the same sign twice; where the first number cannot
-//   be
-//                            a month, day, month, year
+//                            be a month, day, month, year
 //   2004-06-14  2004/6/14    a first number of four digits is the year
 //   14-Jun-04  14 June 2004  names of months in English, whole or by their first three letters
 //   June 14, 2004
-//   9:30  09:30:15           hours up to 23, minutes, seconds or none
+//   Thursday, June 14, 2001  a day of the week in front, whole or by three letters, is passed over
+//   9:30  09:30:15           hours up to 23, minutes, seconds or none, a digit or two each
 //   9:30 PM  9 am  9:30:15p  hours from 1 to 12
 //
 // Years have four digits or two; two mean 1930 to 2029. A day that its month does not have makes a

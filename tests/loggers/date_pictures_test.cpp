@@ -43,6 +43,20 @@ TEST(DatePicture, TakesNamesOfMonths) {
     }
 }
 
+TEST(DatePicture, PassesADayOfTheWeek) {
+    for (const char* const text : {"Thursday, June 14, 2001", "thu 14-jun-01", "Thu, 6/14/2001",
+                                   "Friday 14 June 2001", "SUN,2001-06-14"}) {
+        EXPECT_EQ(by_date_picture(text), "06-14-2001") << text;
+    }
+    for (const char* const text :
+         {"Thursday", "Thursday, ", "Th, June 14, 2001", "Thursday6/14/2001", "Thu Thu 6/14/2001",
+          "Thursdays, June 14, 2001"}) {
+        EXPECT_EQ(by_date_picture(text), text);
+    }
+    EXPECT_EQ(by_time_picture("Thursday, June 14, 2001 9:30"), "093000");
+    EXPECT_EQ(by_time_picture("Thursday, 9:30"), "Thursday, 9:30");
+}
+
 TEST(DatePicture, TakesTwoDigitsOfAYearFor1930To2029) {
     EXPECT_EQ(by_date_picture("1/1/00"), "01-01-2000");
     EXPECT_EQ(by_date_picture("1/1/29"), "01-01-2029");
@@ -115,9 +129,10 @@ TEST(TimePicture, TakesTheTimeBehindADateAndMidnightWithoutOne) {
 }
 
 TEST(TimePicture, LeavesWhatIsNoTimeAsItIs) {
-    for (const char* const text : {"", " ", "9", "930", "0930", "093000", "24:00", "9:60",
-                                   "9:30:60", "9:30:15:1", "9:30:", ":30", "9::30", "9:30.5",
-                                   "-9:30", "noon", " later ", "6/14/2001 9", "12345:00"}) {
+    for (const char* const text :
+         {"",        " ",           "9",        "930",   "0930",   "093000",   "24:00", "9:60",
+          "9:30:60", "9:30:15:1",   "9:30:",    ":30",   "9::30",  "9:30.5",   "-9:30", "noon",
+          " later ", "6/14/2001 9", "12345:00", "9:030", "009:30", "9:30:015", "009 AM"}) {
         EXPECT_EQ(by_time_picture(text), text);
     }
 }
