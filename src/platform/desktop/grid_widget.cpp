@@ -57,17 +57,9 @@ void GridWidget::tell_current_cell() {
 
 void GridWidget::measure() {
     row_height_ = std::max(24, fontMetrics().height() + 8);
-    const QString widest = QString::number(std::max(1, rows_));
-    row_heading_ = fontMetrics().horizontalAdvance(widest) + 2 * cell_margin;
+    row_heading_ = width_of_row_headings();
     measure_columns();
     fit_scroll_bars();
-}
-
-// A little smaller than the cells', so that more of a caption fits.
-QFont GridWidget::caption_font() const {
-    QFont smaller = font();
-    if (smaller.pointSizeF() > 2) smaller.setPointSizeF(smaller.pointSizeF() - 1);
-    return smaller;
 }
 
 int GridWidget::row_pixels(int row) const {
@@ -126,14 +118,6 @@ int GridWidget::columns_shown_to() const {
     return behind;
 }
 
-QString GridWidget::heading_of(int column) const {
-    if (fixed_rows_ > 0) return shown(grid_.cell(0, column));
-    if (shares_width_ && rows_ == 0) return {};  // it will be named when there are rows
-    const QString& caption = column_marks_[std::size_t(column)].caption;
-    const QString number = QString::number(column + 1);
-    return caption.isEmpty() ? number : number + QStringLiteral("  ") + caption;
-}
-
 bool GridWidget::is_marked(GridCell cell) const {
     switch (grid_.highlight()) {
         case Highlight::never: return false;
@@ -157,8 +141,9 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
     const QString says = sentence();
     if (!says.isEmpty()) {
         painter.setPen(colours.quiet);
-        painter.drawText(viewport()->rect().adjusted(16, 16 + heading_height(), -16, -16),
-                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, says);
+        painter.drawText(
+            viewport()->rect().adjusted(16 + row_heading_, 16 + heading_height(), -16, -16),
+            Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, says);
     }
     painter.save();
     painter.setClipRect(row_heading_, heading_height(), viewport()->width(), viewport()->height());
@@ -224,50 +209,6 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
             painter.drawRect(place.adjusted(1, 1, -2, -2));
         }
     }
-}
-
-void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const {
-    painter.fillRect(0, 0, viewport()->width(), heading_height(), colours.page);
-    painter.setPen(colours.line);
-    painter.drawLine(0, heading_height() - 1, viewport()->width(), heading_height() - 1);
-    if (shares_width_ && rows_ == 0) return;  // nothing is known of the columns yet
-    painter.fillRect(0, 0, row_heading_, viewport()->height(), colours.page);
-    painter.drawLine(row_heading_ - 1, 0, row_heading_ - 1, viewport()->height());
-    const bool found_none = has_found_none();
-    for (const ShownRow& row : page_) {
-        if (row.height <= 0 || found_none) continue;
-        painter.setPen(colours.line);
-        painter.drawLine(0, row.top + row.height - 1, row_heading_, row.top + row.height - 1);
-        painter.setPen(colours.quiet);
-        painter.drawText(QRect(0, row.top, row_heading_ - cell_margin, row.height),
-                         Qt::AlignVCenter | Qt::AlignRight,
-                         QString::number(row.row - fixed_rows_ + 1));
-    }
-    painter.setClipRect(row_heading_, 0, viewport()->width(), heading_height());
-    const int behind = columns_shown_to();
-    for (int column = first_column_; column < behind; ++column) {
-        const ColumnMark& mark = column_marks_[std::size_t(column)];
-        const QRect place(column_left(column), 0, column_width(column), heading_height() - 1);
-        if (mark.tint) painter.fillRect(place, tint(colours, *mark.tint));
-        painter.setPen(colours.line);
-        painter.drawLine(place.topRight(), place.bottomRight());
-        const QRect room = place.adjusted(cell_margin, 2, -cell_margin / 2, -2);
-        const auto fitting = [&](const QString& text) {
-            return painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width());
-        };
-        painter.setPen(colours.quiet);
-        if (!marks_) {
-            painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine,
-                             fitting(heading_of(column)));
-            continue;
-        }
-        painter.drawText(room, Qt::AlignTop | Qt::TextSingleLine, QString::number(column + 1));
-        painter.setPen(colours.text);
-        painter.setFont(caption_font());
-        painter.drawText(room, Qt::AlignBottom | Qt::TextSingleLine, fitting(mark.caption));
-        painter.setFont(font());
-    }
-    painter.setClipping(false);
 }
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
