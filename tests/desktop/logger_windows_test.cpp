@@ -161,7 +161,9 @@ TEST(LoggerWindows, TheSelectionSaysWhatIsStillNeeded) {
 
 TEST(LoggerWindows, AConvertedFileAsksWhatComesNext) {
     Loggers drawn;
-    test::logger_roads().at("logger results 3 converted")(drawn);
+    test::logger_roads().at("logger results 2 group")(drawn);
+    QTest::mouseClick(drawn.widget(drawn.screens().frmLoggerResults.cmdConvert), Qt::LeftButton);
+    DrawnProgram::rest();
     EXPECT_EQ(at_keyboard(), "chkYes");
     EXPECT_TRUE(drawn.says("Choose what comes next."));
     press(Qt::Key_Escape);

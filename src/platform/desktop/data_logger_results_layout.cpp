@@ -77,8 +77,8 @@ QHBoxLayout* outcome(Results& results, Draw& draw) {
 
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
-    line->addWidget(converted, 1);
-    line->addWidget(question, 1);
+    line->addWidget(converted, 3);  // a path and a sentence
+    line->addWidget(question, 2);
     return line;
 }
 

@@ -118,7 +118,9 @@ Card* enter_more_card(Portable& portable, Draw& draw) {
 
 Card* more_data_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameMoreData);
-    QLabel* const same = draw.note(portable.lblSame);
+    card->head()->setStretch(0, 0);
+    card->title()->setWordWrap(false);
+    card->head()->addWidget(draw.note(portable.lblSame), 1);
     QCheckBox* const station = draw.tick_box(portable.chkStationYes, 't');
     QCheckBox* const visit = draw.tick_box(portable.chkVisitYes, 'V');
     auto* const line = new QHBoxLayout;
@@ -127,7 +129,6 @@ Card* more_data_card(Portable& portable, Draw& draw) {
     line->addWidget(visit);
     line->addStretch(1);
     line->addWidget(draw.button(portable.cmdMoreDataContinue, 'u'));
-    card->content()->addWidget(same);
     card->content()->addLayout(line);
     return card;
 }
@@ -150,8 +151,10 @@ void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
 
     auto* const after = new QHBoxLayout;
     after->setSpacing(between_cards);
-    after->addWidget(enter_more_card(portable, draw), 1);
-    after->addWidget(more_data_card(portable, draw), 1);
+    for (Card* const card : {enter_more_card(portable, draw), more_data_card(portable, draw)}) {
+        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        after->addWidget(card, 1);
+    }
     page->addLayout(after);
 }
 
