@@ -64,8 +64,11 @@ const std::vector<Table>& tables() {
     return all;
 }
 
+// As the first path has them, and as the second.
 constexpr const char* records =
     "61401\t0930\t12.4\t7.9\r\n61401\t945\t12.5\t\r\n061501\t101530\t12.6\t8\r\n";
+constexpr const char* spelled_records =
+    "6/14/2001\t9:30:15 AM\t12.4\t7.9\r\n14-Jun-01\t9:45 PM\t12.5\r\n";
 
 void log_on(DrawnProgram& drawn) {
     drawn.database.answers = answer_of_two_fens;
@@ -126,7 +129,7 @@ void set_up(DrawnProgram& drawn) {
 }
 
 void display_results(DrawnProgram& drawn) {
-    drawn.folder.write("data/mooring of the northern basin.txt", records);
+    drawn.folder.write("data/mooring of the northern basin.txt", spelled_records);
     set_up(drawn);
     FrmDataLoggerResults& results = drawn.screens().frmDataLoggerResults;
     drawn.act([&] { drawn.screens().frmDataLogger.cmdConvertContinue.press(); });

@@ -143,6 +143,7 @@ TEST(LoggerWindows, TheHeadingsThatGoWithTheConversionGiveWayToTheRecords) {
     drawn.act([&] { drawn.screens().frmDataLoggerResults.cmdConvert.press(); });
     EXPECT_EQ(log.heading_text(0), "Date");
     EXPECT_EQ(log.heading_text(1), "Time");
+    EXPECT_EQ(log.text_on_screen({1, 1}), "214500");
 }
 
 TEST(LoggerWindows, TheSelectionSaysWhatIsStillNeeded) {
