@@ -20,7 +20,7 @@ struct FrmLoggerResults : Screen {
     Label lblNameColumn{frameCharacteristicGroup, "lblNameColumn", "Name"};
     Label lblUnitsColumn{frameCharacteristicGroup, "lblUnitsColumn", "Units of Measure"};
     DataSource AdodcChars{frameCharacteristicGroup, "AdodcChars"};
-    Grid MSHFlexChars{frameCharacteristicGroup, "MSHFlexChars"};
+    Grid MSHFlexChars{frameCharacteristicGroup, "MSHFlexChars", {.columns = 3}};
     Button cmdConvert{frameCharacteristicGroup, "cmdConvert", "Convert =>"};
 
     Panel frameConverted{*this, "frameConverted", "File Converted", hidden};

@@ -14,9 +14,8 @@
 #include <cmath>
 #include <map>
 
-#include "desktop/characteristic_roads.h"
 #include "desktop/drawn_program.h"
-#include "desktop/wizard_roads.h"
+#include "desktop/window_states.h"
 #include "platform/desktop/colours.h"
 #include "platform/desktop/grid_widget.h"
 #include "platform/desktop/plain_views.h"
@@ -27,140 +26,6 @@ namespace brooklander::desktop {
 namespace {
 
 using test::DrawnProgram;
-
-constexpr const char* sample_table =
-    "Station\tDate\tTime\tSample\tDepth\tCrew\tRemarks\tTemperature\tpH\tOxygen\n"
-    "LL-01\t05/04/2021\t915\tLL21-001\t0.5\tRoe Richard\t\t11.0\t7.2\t9.8\r\n"
-    "LL-02\t05/04/2021\t0945\t\t2.5\tDoe Jane\twind from the west, waves\t10.2\t<7.3\t\r\n";
-
-// How a user comes to a state of the windows.
-using Road = std::function<void(DrawnProgram&)>;
-
-void log_on(DrawnProgram& drawn) {
-    drawn.act([&] {
-        drawn.start_screen().txtOracleID.type("jdoe");
-        drawn.start_screen().txtOraclePassWord.type("secret");
-        drawn.start_screen().cmdUIDok.press();
-    });
-}
-
-void choose_file(DrawnProgram& drawn) {
-    log_on(drawn);
-    drawn.folder.write("data/lake survey of a rather long name.txt", sample_table);
-    drawn.act([&] {
-        drawn.start_screen().mnuImport.choose();
-        DrawnProgram::select(drawn.start_screen().Dir1, "data");
-        drawn.start_screen().lstImportFileBox.click_entry(0);
-    });
-}
-
-void view_file(DrawnProgram& drawn) {
-    choose_file(drawn);
-    drawn.act([&] { drawn.start_screen().cmdView.press(); });
-}
-
-void name_output(DrawnProgram& drawn) {
-    view_file(drawn);
-    drawn.act([&] {
-        drawn.import_screen().cmdYes.press();
-        drawn.screens().frmPreferences.optVox.choose();
-    });
-}
-
-void choose_columns(DrawnProgram& drawn) {
-    name_output(drawn);
-    drawn.act([&] {
-        drawn.import_screen().cmdSave.press();
-        drawn.import_screen().cmdActivitySkip.press();
-        drawn.assign_station_date_and_results();
-        drawn.import_screen().cmdTime.press();
-    });
-}
-
-std::map<std::string, Road> all_roads() {
-    std::map<std::string, Road> all{
-        {"start 1 logon", [](DrawnProgram&) {}},
-        {"start 2 typed",
-         [](DrawnProgram& drawn) {
-             drawn.act([&] {
-                 drawn.start_screen().txtOracleID.type("jdoe");
-                 drawn.start_screen().txtOraclePassWord.type("secret");
-             });
-         }},
-        {"start 3 refused",
-         [](DrawnProgram& drawn) {
-             drawn.database.refuses = true;
-             log_on(drawn);
-         }},
-        {"start 4 logged on", log_on},
-        {"start 5 exit and about",
-         [](DrawnProgram& drawn) {
-             log_on(drawn);
-             drawn.act([&] {
-                 drawn.start_screen().mnuExit.choose();
-                 drawn.start_screen().mnuAbout.choose();
-             });
-         }},
-        {"start 6 files", choose_file},
-        {"import 1 view", view_file},
-        {"import 2 output", name_output},
-        {"import 3 filler",
-         [](DrawnProgram& drawn) {
-             name_output(drawn);
-             drawn.act([&] {
-                 drawn.import_screen().cmdSave.press();
-                 drawn.import_screen().txtActivityID.type("LAKE");
-             });
-         }},
-        {"import 4 columns", choose_columns},
-        {"import 5 kept columns",
-         [](DrawnProgram& drawn) {
-             choose_columns(drawn);
-             drawn.act([&] { drawn.import_screen().frameSameSelections.show(); });
-         }},
-        {"import 6 first row",
-         [](DrawnProgram& drawn) {
-             choose_columns(drawn);
-             drawn.act([&] {
-                 drawn.import_screen().cmdContinue.press();
-                 drawn.table().click_cell({1, 0});
-             });
-         }},
-        {"import 7 converted",
-         [](DrawnProgram& drawn) {
-             choose_columns(drawn);
-             drawn.act([&] { drawn.convert(1); });
-         }},
-        {"import 8 characteristics",
-         [](DrawnProgram& drawn) {
-             choose_file(drawn);
-             drawn.act([&] {
-                 drawn.start_screen().chkPreferences.set_ticked(true);
-                 drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
-                 drawn.start_screen().cmdView.press();
-             });
-         }},
-        {"import 9 characteristic column",
-         [](DrawnProgram& drawn) {
-             choose_file(drawn);
-             drawn.act([&] {
-                 drawn.start_screen().chkPreferences.set_ticked(true);
-                 drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
-                 drawn.start_screen().cmdView.press();
-                 drawn.import_screen().cmdCharYes.press();
-             });
-         }},
-    };
-    for (const test::WizardRoad& road : test::wizard_roads()) all[road.name] = road.take;
-    const auto further = test::characteristic_roads();
-    all.insert(further.begin(), further.end());
-    return all;
-}
-
-const std::map<std::string, Road>& roads() {
-    static const std::map<std::string, Road> all = all_roads();
-    return all;
-}
 
 struct Scheme {
     std::string name;
@@ -232,7 +97,7 @@ class Windows : public testing::TestWithParam<std::tuple<std::string, Scheme>> {
     Windows() {
         put_on(std::get<Scheme>(GetParam()));
         drawn_.act([this] { drawn_.program.start(); });
-        roads().at(std::get<std::string>(GetParam()))(drawn_);
+        test::roads().at(std::get<std::string>(GetParam()))(drawn_);
         DrawnProgram::rest();
     }
     ~Windows() override { put_on(schemes().front()); }
@@ -374,8 +239,8 @@ TEST_P(Windows, GrowWithTheDisplayAndClipNoTextThere) {
     save_picture(window(), state, scheme, "large");
 }
 
-// The screens that have no layout of their own yet, with all their panels up.
-TEST(PlainWindows, ShowEveryFieldByNameInReadingOrderWithoutClipping) {
+// Every screen with all its panels up, as no road leads to.
+TEST(WholeWindows, ShowEveryFieldByNameInReadingOrderWithoutClipping) {
     DrawnProgram drawn;
     drawn.act([&] { drawn.program.start(); });
     for (Screen* const screen : drawn.screens().desk.screens()) {
@@ -392,14 +257,14 @@ TEST(PlainWindows, ShowEveryFieldByNameInReadingOrderWithoutClipping) {
         expect_named_controls(window);
         expect_tab_order_of_reading(window);
         expect_no_clipped_text(window);
-        save_picture(*drawn.windows.window_of(*screen), screen->name(), schemes().front(), "plain");
+        save_picture(*drawn.windows.window_of(*screen), screen->name(), schemes().front(), "whole");
         drawn.act([&] { screen->hide(); });
     }
 }
 
 std::vector<std::string> states() {
     std::vector<std::string> names;
-    for (const auto& [name, road] : roads()) names.push_back(name);
+    for (const auto& [name, road] : test::roads()) names.push_back(name);
     return names;
 }
 

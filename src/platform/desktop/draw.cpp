@@ -146,6 +146,14 @@ GridWidget* Draw::grid(Grid& grid, const QString& name) {
     return widget;
 }
 
+void Draw::name_column(GridWidget* grid, int column, Label& label, const QString& otherwise) {
+    windows_.add(column_name_view(label, grid, column, otherwise));
+}
+
+void Draw::name_row(GridWidget* grid, int row, Label& label) {
+    windows_.add(row_name_view(label, grid, row));
+}
+
 GridWidget* Draw::choices(Grid& grid, const QString& name, const ListTexts& texts) {
     GridWidget* const widget = this->grid(grid, name);
     widget->use_all_width();
@@ -223,14 +231,12 @@ QHBoxLayout* row(std::initializer_list<QWidget*> widgets, Side packed_to) {
 
 namespace {
 
-class ShareWhileShown : public QObject {
+// Tells whether any of some widgets is there, now and whenever that may have changed. The first
+// widget owns it.
+class AnyShown : public QObject {
   public:
-    ShareWhileShown(QBoxLayout* layout, int item, int share, std::vector<QWidget*> widgets)
-        : QObject(widgets.front()),
-          layout_(layout),
-          item_(item),
-          share_(share),
-          widgets_(std::move(widgets)) {
+    AnyShown(std::vector<QWidget*> widgets, std::function<void(bool any)> tell)
+        : QObject(widgets.front()), widgets_(std::move(widgets)), tell_(std::move(tell)) {
         for (QWidget* const widget : widgets_) widget->installEventFilter(this);
         follow();
     }
@@ -244,22 +250,37 @@ class ShareWhileShown : public QObject {
 
   private:
     void follow() {
-        const bool any = std::any_of(widgets_.begin(), widgets_.end(),
-                                     [](const QWidget* widget) { return !widget->isHidden(); });
-        layout_->setStretch(item_, any ? share_ : 0);
+        tell_(std::any_of(widgets_.begin(), widgets_.end(),
+                          [](const QWidget* widget) { return !widget->isHidden(); }));
     }
 
-    QBoxLayout* layout_;
-    int item_;
-    int share_;
     std::vector<QWidget*> widgets_;
+    std::function<void(bool)> tell_;
 };
 
 }  // namespace
 
 void share_while_shown(QBoxLayout* layout, int item, int share,
                        std::initializer_list<QWidget*> widgets) {
-    new ShareWhileShown(layout, item, share, widgets);  // the first widget owns it
+    new AnyShown(widgets, [=](bool any) { layout->setStretch(item, any ? share : 0); });
+}
+
+void there_while_shown(QWidget* card, std::initializer_list<QWidget*> widgets) {
+    new AnyShown(widgets, [card](bool any) { card->setVisible(any); });
+}
+
+void give_keyboard(QWidget* control) {
+    if (control->isVisible() && control->isEnabled()) control->setFocus(Qt::OtherFocusReason);
+}
+
+void lead_on(QPushButton* pressed, QWidget* control) {
+    QObject::connect(pressed, &QPushButton::clicked, pressed,
+                     [control] { give_keyboard(control); });
+}
+
+void keep_width(QWidget* widget, int letters) {
+    widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * letters);
+    widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
 }
 
 namespace {

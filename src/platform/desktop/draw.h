@@ -65,6 +65,11 @@ class Draw {
     QComboBox* pick_list(EntryList& list, const QString& name);
     GridWidget* grid(Grid& grid, const QString& name);
 
+    // A label that names a column or a row of a grid, counted from 0, in the grid's headings. While
+    // such a column's label is hidden, the layout's own word stands there.
+    void name_column(GridWidget* grid, int column, Label& label, const QString& otherwise = {});
+    void name_row(GridWidget* grid, int row, Label& label);
+
     // A grid to choose a row of: it uses the width that it has, and says a sentence while it waits
     // for its rows, and another when it has been answered without any.
     struct ListTexts {
@@ -116,6 +121,19 @@ QHBoxLayout* row(std::initializer_list<QWidget*> widgets, Side packed_to = Side:
 // widgets is there; a layout would keep the share of one that holds nothing.
 void share_while_shown(QBoxLayout* layout, int item, int share,
                        std::initializer_list<QWidget*> widgets);
+
+// Shows a card that no panel stands for as long as one of the widgets on it is there.
+void there_while_shown(QWidget* card, std::initializer_list<QWidget*> widgets);
+
+// Gives the keyboard to a control that can take it.
+void give_keyboard(QWidget* control);
+
+// Gives the keyboard on to a control when a button has been pressed; the step has run by then.
+void lead_on(QPushButton* pressed, QWidget* control);
+
+// Gives a widget so many letters of its own font, so that it grows with it, and no more height than
+// its texts need.
+void keep_width(QWidget* widget, int letters);
 
 // Keeps a widget's place free while it is hidden, so that nothing beside it jumps.
 void keep_place(QWidget* widget);

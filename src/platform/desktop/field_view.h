@@ -19,7 +19,8 @@ class FieldView {
 
     virtual Field& field() const = 0;
 
-    // The widget that is the field for the user; null for menus, which are none.
+    // The widget that is the field for the user; null for menus and for the headings of grids,
+    // which are none.
     virtual QWidget* widget() const = 0;
 
     // Makes the widget show what the field holds now.

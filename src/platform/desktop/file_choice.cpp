@@ -9,8 +9,6 @@
 namespace brooklander::desktop {
 namespace {
 
-constexpr int folders_in_lines = 18;
-
 // A caption that leads to a widget: a field's or, without one, the layout's own.
 QLabel* caption_of(Label* label, const char* own, char letter, QWidget* to, Card* card,
                    Draw& draw) {
@@ -21,14 +19,17 @@ QLabel* caption_of(Label* label, const char* own, char letter, QWidget* to, Card
     return caption;
 }
 
-QGridLayout* lists(const FileChoice& choice, Card* card, Draw& draw) {
+QGridLayout* lists(const FileChoice& choice, int folder_lines, Card* card, Draw& draw) {
     QLabel* const files_caption = draw.caption(choice.files_caption, 'l');
     QComboBox* const drives = draw.pick_list(choice.drives, QStringLiteral("Drive:"));
     ListWidget* const folders = draw.list(choice.folders, QStringLiteral("Directory:"));
     ListWidget* const files = draw.list(choice.files, shown(choice.files_caption.text()));
     files->set_empty_text(QStringLiteral("No text files here. Open another directory."));
-    folders->setMinimumHeight(folders->fontMetrics().height() * folders_in_lines);
+    folders->setMinimumHeight(folders->fontMetrics().height() * folder_lines);
     files_caption->setBuddy(files);
+    for (ListWidget* const list : {folders, files}) {  // as high as the card lets them be
+        list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    }
 
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(inside_card);
@@ -46,24 +47,31 @@ QGridLayout* lists(const FileChoice& choice, Card* card, Draw& draw) {
     return grid;
 }
 
-}  // namespace
-
-void keep_width(QWidget* widget, int letters) {
-    widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * letters);
-    widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
+// The buttons, of which one is filled.
+void add_buttons(const FileChoice& choice, QHBoxLayout* line, Draw& draw) {
+    if (choice.convert == nullptr) {
+        line->addWidget(draw.filled(choice.view, 'V'));
+        return;
+    }
+    QPushButton* const view = draw.button(choice.view, 'y');
+    draw.window().moves_on(view);
+    line->addWidget(view);
+    line->addWidget(draw.filled(*choice.convert, 'C'));
 }
 
-Card* file_choice_card(const FileChoice& choice, Draw& draw) {
+}  // namespace
+
+Card* file_choice_card(const FileChoice& choice, Draw& draw, FileChoiceRoom room) {
     Card* const card = draw.card(choice.panel);
-    keep_width(card, file_choice_in_letters);
+    keep_width(card, room.letters);
     card->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    card->content()->addLayout(lists(choice, card, draw), 1);
+    card->content()->addLayout(lists(choice, room.folder_lines, card, draw), 1);
     if (choice.hint != nullptr) card->content()->addWidget(draw.note(*choice.hint));
     auto* const chosen = new QHBoxLayout;
     chosen->setSpacing(between_controls);
     chosen->addWidget(draw.caption(choice.chosen_caption));
     chosen->addWidget(draw.value(choice.chosen, shown(choice.chosen_caption.text())), 1);
-    chosen->addWidget(draw.filled(choice.view, 'V'));
+    add_buttons(choice, chosen, draw);
     card->content()->addLayout(chosen);
     return card;
 }

@@ -1,4 +1,4 @@
-// The choice of a file by drive, folder and name, which two screens have.
+// The choice of a file by drive, folder and name, which three screens have.
 #pragma once
 
 #include "platform/desktop/draw.h"
@@ -20,16 +20,21 @@ struct FileChoice {
     Label* drives_caption = nullptr;
     Label* folders_caption = nullptr;
     Label* hint = nullptr;
+    // What is done with a file once it has been viewed, where that is done here: it moves the work
+    // on then, and to view is a quiet button before it.
+    Button* convert = nullptr;
 };
 
-// A card of one width on every screen; its lists take the height that it gets.
-Card* file_choice_card(const FileChoice& choice, Draw& draw);
-
-// Gives a widget so many letters of its own font, so that it grows with it, and no more height than
-// its texts need.
-void keep_width(QWidget* widget, int letters);
-
-// What the card is wide, for those that stand in a column with it.
+// What the card is wide where it has the window for itself, for those that stand in a column with
+// it.
 inline constexpr int file_choice_in_letters = 100;
+
+// How much room the card takes. Its lists take the height that it gets beyond that.
+struct FileChoiceRoom {
+    int letters = file_choice_in_letters;
+    int folder_lines = 18;
+};
+
+Card* file_choice_card(const FileChoice& choice, Draw& draw, FileChoiceRoom room = {});
 
 }  // namespace brooklander::desktop

@@ -81,8 +81,11 @@ void GridWidget::measure_columns() {
         const int twips = grid_.column_width(column);
         needs_[at] = twips <= 0 ? 0 : std::clamp(needs_[at], least, most);
         if (twips <= 0) continue;
-        const QString heading = fixed_rows_ > 0 ? heading_of(column) : QString::number(column + 1);
+        const bool is_named = fixed_rows_ > 0 || !column_name(column).isEmpty();
+        const QString heading = is_named ? heading_of(column) : QString::number(column + 1);
         const int of_heading = fontMetrics().horizontalAdvance(heading) + 2 * cell_margin + 1;
+        // A name that a screen gives a column is as good as a text in it.
+        if (!column_name(column).isEmpty()) needs_[at] = std::max(needs_[at], of_heading);
         wishes_[at] = std::max({static_cast<int>(std::lround(twips * to_pixels)), least_width(),
                                 std::min(most, of_heading), needs_[at]});
     }

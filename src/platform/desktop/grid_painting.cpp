@@ -1,4 +1,4 @@
-// How a grid looks: its cells, its headings, and what it says in place of rows.
+// How the cells of a grid look, and what it says in place of rows.
 #include <QPainter>
 
 #include "platform/desktop/colours.h"
@@ -29,8 +29,9 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
     const QString says = sentence();
     if (!says.isEmpty()) {
         painter.setPen(colours.quiet);
-        painter.drawText(viewport()->rect().adjusted(16, 16 + heading_height(), -16, -16),
-                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, says);
+        painter.drawText(
+            viewport()->rect().adjusted(16 + row_heading_, 16 + heading_height(), -16, -16),
+            Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, says);
     }
     painter.save();
     painter.setClipRect(row_heading_, heading_height(), viewport()->width(), viewport()->height());
@@ -96,50 +97,6 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
             painter.drawRect(place.adjusted(1, 1, -2, -2));
         }
     }
-}
-
-void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const {
-    painter.fillRect(0, 0, viewport()->width(), heading_height(), colours.page);
-    painter.setPen(colours.line);
-    painter.drawLine(0, heading_height() - 1, viewport()->width(), heading_height() - 1);
-    if (shares_width_ && rows_ == 0) return;  // nothing is known of the columns yet
-    painter.fillRect(0, 0, row_heading_, viewport()->height(), colours.page);
-    painter.drawLine(row_heading_ - 1, 0, row_heading_ - 1, viewport()->height());
-    const bool found_none = has_found_none();
-    for (const ShownRow& row : page_) {
-        if (row.height <= 0 || found_none) continue;
-        painter.setPen(colours.line);
-        painter.drawLine(0, row.top + row.height - 1, row_heading_, row.top + row.height - 1);
-        painter.setPen(colours.quiet);
-        painter.drawText(QRect(0, row.top, row_heading_ - cell_margin, row.height),
-                         Qt::AlignVCenter | Qt::AlignRight,
-                         QString::number(row.row - fixed_rows_ + 1));
-    }
-    painter.setClipRect(row_heading_, 0, viewport()->width(), heading_height());
-    const int behind = columns_shown_to();
-    for (int column = first_column_; column < behind; ++column) {
-        const ColumnMark& mark = column_marks_[std::size_t(column)];
-        const QRect place(column_left(column), 0, column_width(column), heading_height() - 1);
-        if (mark.tint) painter.fillRect(place, tint(colours, *mark.tint));
-        painter.setPen(colours.line);
-        painter.drawLine(place.topRight(), place.bottomRight());
-        const QRect room = place.adjusted(cell_margin, 2, -cell_margin / 2, -2);
-        const auto fitting = [&](const QString& text) {
-            return painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width());
-        };
-        painter.setPen(colours.quiet);
-        if (!marks_) {
-            painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine,
-                             fitting(heading_of(column)));
-            continue;
-        }
-        painter.drawText(room, Qt::AlignTop | Qt::TextSingleLine, QString::number(column + 1));
-        painter.setPen(colours.text);
-        painter.setFont(caption_font());
-        painter.drawText(room, Qt::AlignBottom | Qt::TextSingleLine, fitting(mark.caption));
-        painter.setFont(font());
-    }
-    painter.setClipping(false);
 }
 
 }  // namespace brooklander::desktop

@@ -55,17 +55,9 @@ void GridWidget::tell_current_cell() {
 
 void GridWidget::measure() {
     row_height_ = std::max(24, fontMetrics().height() + 8);
-    const QString widest = QString::number(std::max(1, rows_));
-    row_heading_ = fontMetrics().horizontalAdvance(widest) + 2 * cell_margin;
+    row_heading_ = width_of_row_headings();
     measure_columns();
     fit_scroll_bars();
-}
-
-// A little smaller than the cells', so that more of a caption fits.
-QFont GridWidget::caption_font() const {
-    QFont smaller = font();
-    if (smaller.pointSizeF() > 2) smaller.setPointSizeF(smaller.pointSizeF() - 1);
-    return smaller;
 }
 
 int GridWidget::row_pixels(int row) const {
@@ -122,14 +114,6 @@ int GridWidget::columns_shown_to() const {
     int behind = first_column_;
     while (behind < columns_ && column_left(behind) < viewport()->width()) ++behind;
     return behind;
-}
-
-QString GridWidget::heading_of(int column) const {
-    if (fixed_rows_ > 0) return shown(grid_.cell(0, column));
-    if (shares_width_ && rows_ == 0) return {};  // it will be named when there are rows
-    const QString& caption = column_marks_[std::size_t(column)].caption;
-    const QString number = QString::number(column + 1);
-    return caption.isEmpty() ? number : number + QStringLiteral("  ") + caption;
 }
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {

@@ -25,7 +25,7 @@ struct ColumnMark {
 };
 
 // Rows and columns are those of the grid, from 0. Columns count from 1 in the headings, or are
-// named there by the grid's fixed row; rows count from 1 below that.
+// named there by the grid's fixed row or by labels; rows count from 1 below that.
 class GridWidget : public QAbstractScrollArea {
   public:
     static constexpr int cell_margin = 8;  // left and right of a cell's text
@@ -51,6 +51,16 @@ class GridWidget : public QAbstractScrollArea {
 
     // Tells the columns apart; asked whenever the widget follows its grid.
     void set_column_marks(std::function<ColumnMark(int column)> marks);
+
+    // Names a column or a row in its heading, before what stands there otherwise; an empty name
+    // gives that its place back.
+    void name_column(int column, const QString& name);
+    void name_row(int row, const QString& name);
+    QString column_name(int column) const;
+    QString row_name(int row) const;
+
+    // Leaves the headings of rows without a name empty, for a grid that counts its rows itself.
+    void drop_row_numbers();
 
     // Shows the grid as it is now.
     void follow();
@@ -132,7 +142,10 @@ class GridWidget : public QAbstractScrollArea {
     QString sentence() const;
     void fit_scroll_bars();
     void read_page();
+    bool knows_columns() const;
     QString heading_of(int column) const;
+    QString row_heading_of(int row) const;
+    int width_of_row_headings() const;
     int least_width() const;
     QFont caption_font() const;
     QColor behind_column(const Colours& colours, int column) const;
@@ -145,6 +158,9 @@ class GridWidget : public QAbstractScrollArea {
     QString empty_text_;
     QString found_none_text_;
     bool shares_width_ = false;
+    bool numbers_rows_ = true;
+    std::map<int, QString> column_names_;
+    std::map<int, QString> row_names_;
 
     // The grid as it was when the widget last followed it.
     int rows_ = 0;
@@ -154,7 +170,7 @@ class GridWidget : public QAbstractScrollArea {
     GridCell current_;
 
     int row_height_ = 24;
-    int row_heading_ = 0;  // how wide the row numbers are
+    int row_heading_ = 0;  // how wide the headings of the rows are
     int x_ = 0;            // how far it is scrolled to the right
     std::vector<int> lefts_{0};
     std::vector<int> needs_;   // what the texts of each column need; 0 for a hidden one
@@ -170,5 +186,11 @@ class GridWidget : public QAbstractScrollArea {
 };
 
 std::unique_ptr<FieldView> grid_view(Grid& grid, GridWidget* widget, Acts& acts);
+
+// For a label that names a column or a row of a grid: it is drawn in the headings, has no widget of
+// its own, and comes and goes with the grid. While it is hidden itself, `otherwise` stands there.
+std::unique_ptr<FieldView> column_name_view(Label& label, GridWidget* grid, int column,
+                                            const QString& otherwise);
+std::unique_ptr<FieldView> row_name_view(Label& label, GridWidget* grid, int row);
 
 }  // namespace brooklander::desktop

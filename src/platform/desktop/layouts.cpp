@@ -26,6 +26,18 @@ void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& wi
         lay_out_translation(screens.frmCharacteristics, draw);
     } else if (&screen == &screens.frmCharacteristicDetails) {
         lay_out_details(screens.frmCharacteristicDetails, draw);
+    } else if (&screen == &screens.frmSubjectTaxon) {
+        lay_out_taxon(screens.frmSubjectTaxon, draw);
+    } else if (&screen == &screens.frmLogger) {
+        lay_out_logger(screens.frmLogger, draw);
+    } else if (&screen == &screens.frmLoggerResults) {
+        lay_out_logger_results(screens.frmLoggerResults, draw);
+    } else if (&screen == &screens.frmDataLogger) {
+        lay_out_data_logger(screens.frmDataLogger, draw);
+    } else if (&screen == &screens.frmDataLoggerResults) {
+        lay_out_data_logger_results(screens.frmDataLoggerResults, draw);
+    } else if (&screen == &screens.frmPortableDataLogger) {
+        lay_out_portable(screens.frmPortableDataLogger, draw);
     } else {
         lay_out_plainly(screen, draw);
     }

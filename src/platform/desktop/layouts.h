@@ -6,7 +6,8 @@
 
 namespace brooklander::desktop {
 
-// Lays a screen's fields out, by its own layout or, where it has none, by the plain one.
+// Lays a screen's fields out: by its own layout or, for the three that only hold what other screens
+// write, by the plain one.
 void lay_out(Screens& screens, Screen& screen, ScreenWindow& window, Windows& windows);
 
 void lay_out_start(FrmStart& start, Draw& draw);
@@ -23,7 +24,18 @@ void lay_out_settings(FrmPreferencesSettings& settings, FrmPreferences& manager,
 void lay_out_samples(FrmPreferencesSamples& samples, Draw& draw);
 void lay_out_options(FrmPreferencesSampleOption& options, Draw& draw);
 
-// One card a panel, one field below the other, in the order in which the screen has them.
+void lay_out_taxon(FrmSubjectTaxon& taxon, Draw& draw);
+
+// The two ways of a logger file, and the results that are typed in by hand.
+void lay_out_logger(FrmLogger& logger, Draw& draw);
+void lay_out_logger_results(FrmLoggerResults& results, Draw& draw);
+void lay_out_data_logger(FrmDataLogger& logger, Draw& draw);
+void lay_out_data_logger_results(FrmDataLoggerResults& results, Draw& draw);
+void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw);
+
+// One card a panel, one field below the other, in the order in which the screen has them. It is for
+// frmImport, frmImportContinue and frmPreferencesCharacteristics: nobody works on these, but the
+// first one is shown for a moment, and scenarios may open all three.
 void lay_out_plainly(Screen& screen, Draw& draw);
 
 }  // namespace brooklander::desktop

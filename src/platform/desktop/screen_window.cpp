@@ -199,7 +199,7 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
     }
     const QWidget* const focus = QApplication::focusWidget();
     for (const Question& question : questions_) {
-        if (!question.card->isVisible()) continue;
+        if (question.no == nullptr || !question.card->isVisible()) continue;
         if (qobject_cast<const QLineEdit*>(focus) != nullptr &&
             !question.card->isAncestorOf(focus)) {
             continue;

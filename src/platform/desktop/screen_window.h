@@ -23,7 +23,8 @@ class ScreenWindow : public QMainWindow {
     QWidget* surface() { return surface_; }
 
     // A card that asks something: when it comes up, `first` gets the keyboard, and Escape presses
-    // `no`, from everywhere but out of a table, and out of a text box on another card.
+    // `no`, from everywhere but out of a table, and out of a text box on another card. It may be
+    // null, and Escape does nothing then.
     void asks(QWidget* card, QWidget* first, QWidget* no);
 
     // A card: when the control that had the keyboard goes, the first one on a card that has come up

@@ -54,6 +54,21 @@ void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw) {
     form->addWidget(clear, row, 3);
 }
 
+QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card* card,
+                         Draw& draw) {
+    QLabel* const before = draw.text(caption, card);
+    before->setWordWrap(false);
+    auto* const line = new QHBoxLayout;
+    line->setSpacing(between_controls);
+    line->addWidget(before);
+    line->addWidget(draw.value(value, caption), name == nullptr ? 1 : 0);
+    if (name == nullptr) return line;
+    ValueLabel* const behind = draw.value(*name, caption + QStringLiteral(" name"));
+    behind->drop_dash();
+    line->addWidget(behind, 1);
+    return line;
+}
+
 QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(inside_card);

@@ -1,4 +1,4 @@
-// What the steps of making a configuration have in common, so that they read as one wizard: the
+// What screens that lead on to each other have in common, so that they read as one wizard: the
 // file's name on top, the forms of what is chosen, and the button that moves on, at the lower
 // right.
 #pragma once
@@ -27,6 +27,10 @@ struct Chosen {
     Button* clear = nullptr;
 };
 void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw);
+
+// What is chosen, on one line, for a screen that has no field for its caption; the name may be
+// null. There is room behind it.
+QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card* card, Draw& draw);
 
 // What is on the left, the note on what is still needed, and the button.
 QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button);

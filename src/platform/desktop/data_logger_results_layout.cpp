@@ -1,0 +1,125 @@
+#include <QGridLayout>
+#include <QPushButton>
+
+#include "platform/desktop/file_choice.h"
+#include "platform/desktop/layouts.h"
+#include "platform/desktop/theme.h"
+
+namespace brooklander::desktop {
+namespace {
+
+using Results = FrmDataLoggerResults;
+
+Card* files_card(Results& results, Draw& draw) {
+    return file_choice_card({.panel = results.frameLoggerFiles,
+                             .drives = results.Drive1,
+                             .folders = results.dirLoggerFile,
+                             .files_caption = results.lblFileNames,
+                             .files = results.fileLogger,
+                             .chosen_caption = results.lblSelectedFileCaption,
+                             .chosen = results.lblSelectedFile,
+                             .view = results.cmdView,
+                             .drives_caption = &results.lblDrive,
+                             .folders_caption = &results.lblDirectory,
+                             .convert = &results.cmdConvert},
+                            draw, {.letters = 72, .folder_lines = 8});
+}
+
+// What the file is compared with, and its lines.
+Card* display_card(Results& results, Draw& draw) {
+    Card* const card = draw.card(results.frameDisplay);
+    card->content()->addWidget(draw.note(results.lblMatch));
+    auto* const form = new QGridLayout;
+    form->setHorizontalSpacing(between_controls);
+    form->setVerticalSpacing(4);
+    int row = 0;
+    const auto add = [&](Label& caption, Label& value) {
+        form->addWidget(draw.caption(caption), row, 0);
+        form->addWidget(draw.value(value, shown(caption.text())), row, 1);
+        ++row;
+    };
+    add(results.lblInstallationCaption, results.lblInstallationIDConvert);
+    add(results.lblPeriodCaption, results.lblOperatingPeriodLogConvert);
+    add(results.lblStartCaption, results.lblStartDateTime);
+    add(results.lblStopCaption, results.lblStopDateTime);
+    form->setColumnStretch(1, 1);
+    card->content()->addLayout(form);
+    ListWidget* const lines =
+        draw.list(results.lstLoggerFile, QStringLiteral("Lines of the selected file"));
+    lines->set_empty_text(QStringLiteral("Select a file and click Display to see its lines here."));
+    card->lead_to(lines, 'p');
+    constexpr int fewest_lines = 5;
+    lines->setMinimumHeight(lines->fontMetrics().height() * fewest_lines);
+    lines->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as high as the choice
+    card->content()->addWidget(lines, 1);
+    return card;
+}
+
+// What has come of the file, and beside it what comes next.
+QHBoxLayout* outcome(Results& results, Draw& draw) {
+    Card* const converted = draw.sheet();
+    ValueLabel* const file =
+        draw.value(results.lblSelectedFileConverted, QStringLiteral("Converted file"));
+    QLabel* const word = draw.caption(results.lblConvertedFile);
+    word->setWordWrap(false);
+    auto* const sentence = new QHBoxLayout;
+    sentence->setSpacing(between_controls);
+    sentence->addWidget(file, 1);
+    sentence->addWidget(word);
+    converted->content()->addLayout(sentence);
+    there_while_shown(converted, {file, word});
+
+    Card* const question = draw.card(results.frameEnterMoreData);
+    const auto [yes, no] =
+        draw.to_go_on(question, results.cmdEnterMoreDataYes, results.cmdEnterMoreDataNo);
+    question->head()->addWidget(yes);
+    question->head()->addWidget(no);
+
+    auto* const line = new QHBoxLayout;
+    line->setSpacing(between_cards);
+    line->addWidget(converted, 3);  // a path and a sentence
+    line->addWidget(question, 2);
+    return line;
+}
+
+// The labels that go with the conversion stand over the columns until then.
+Card* log_sheet(Results& results, Draw& draw) {
+    Card* const sheet = draw.sheet();
+    GridWidget* const log = draw.grid(results.MSFlexLog, QStringLiteral("Converted records"));
+    log->use_all_width();
+    log->set_empty_text(QStringLiteral("The records stand here once the file is converted."));
+    draw.name_column(log, 0, results.lblRowId, QStringLiteral("Date"));
+    draw.name_column(log, 1, results.lblDisplayName, QStringLiteral("Time"));
+    draw.name_column(log, 2, results.lblUnits, QStringLiteral("Result 1"));
+    draw.name_column(log, 3, results.lblResult, QStringLiteral("Result 2"));
+    const auto name_others = [&results, log] {
+        for (int column = 4; column < results.MSFlexLog.columns(); ++column) {
+            log->name_column(column, results.lblResult.visible()
+                                         ? QString()
+                                         : QStringLiteral("Result %1").arg(column - 1));
+        }
+    };
+    results.lblResult.observe(name_others);
+    name_others();
+    sheet->content()->addWidget(log, 1);
+    return sheet;
+}
+
+}  // namespace
+
+void lay_out_data_logger_results(FrmDataLoggerResults& results, Draw& draw) {
+    QVBoxLayout* const page = draw.window().page();
+    page->addWidget(draw.title());
+    Card* const warning = draw.card(results.frameWarning);
+    warning->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    page->addWidget(warning);
+    auto* const upper = new QHBoxLayout;
+    upper->setSpacing(between_cards);
+    upper->addWidget(files_card(results, draw));
+    upper->addWidget(display_card(results, draw), 1);
+    page->addLayout(upper, 3);
+    page->addLayout(outcome(results, draw));
+    page->addWidget(log_sheet(results, draw), 2);
+}
+
+}  // namespace brooklander::desktop
