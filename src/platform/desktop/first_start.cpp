@@ -41,16 +41,14 @@ QString run_first_start(const QString& script, std::chrono::milliseconds patienc
 }
 
 void tell_first_start(const QString& sentences, QWidget& window) {
-    auto* const box =
-        new QMessageBox(QMessageBox::Warning, QStringLiteral("Not everything is in place"),
-                        QStringLiteral("Brooklander could not lay down all that it starts with."),
-                        QMessageBox::NoButton, &window);
+    auto* const box = new QMessageBox(
+        QMessageBox::Warning, QStringLiteral("Not everything is in place"),
+        QStringLiteral("Brooklander could not lay down all that it starts with.\n\n") + sentences,
+        QMessageBox::NoButton, &window);
     box->setObjectName(QStringLiteral("firstStart"));
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(
-        sentences +
-        QStringLiteral("\n\nWhat is there can be used all the same. The next start tries "
-                       "again."));
+        QStringLiteral("What is there can be used all the same. The next start tries again."));
     auto* const close = box->addButton(QStringLiteral("&Close"), QMessageBox::AcceptRole);
     box->setDefaultButton(close);
     box->setEscapeButton(close);
