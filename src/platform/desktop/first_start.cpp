@@ -4,12 +4,13 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 
 namespace brooklander::desktop {
 namespace {
 
 QString failure_of(QProcess& process) {
-    const QString said = QString::fromUtf8(process.readAllStandardError()).trimmed();
+    QString said = QString::fromUtf8(process.readAllStandardError()).trimmed();
     if (!said.isEmpty()) return said;
     return QStringLiteral("\"%1\" has failed.").arg(process.program());
 }
