@@ -12,7 +12,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit
 
-made=$(cmake --build "$build" --target package 2>&1) || { echo "$made" && exit 1; }
+made=$(umask 077 && cmake --build "$build" --target package 2>&1) || { echo "$made" && exit 1; }
 version=$(sed -n 's/^project(brooklander VERSION \([^ ]*\).*/\1/p' "$root/CMakeLists.txt")
 package=$build/brooklander_${version}_$(dpkg --print-architecture).deb
 dpkg-deb -x "$package" installed || exit
@@ -33,6 +33,8 @@ is "the metainfo tells this version" "$version" \
   "$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' installed/usr/share/metainfo/*.xml)"
 
 # What is in it.
+holds "everybody may use it, whoever has made it" \
+  "$(dpkg-deb -c "$package" | grep -vE '^(d|-)rwxr-xr-x root/root |^-rw-r--r-- root/root ')"
 is "everything lies below usr" "usr" "$(ls -A installed)"
 is "the samples are those of the source tree" "" "$(diff -r "$root/samples" \
   installed/usr/share/brooklander/samples 2>&1 | grep -vFx "Only in $root/samples: CMakeLists.txt")"
