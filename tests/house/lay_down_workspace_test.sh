@@ -88,6 +88,32 @@ mkdir -p both/brooklander both/BROOKLANDER
 lay_down "$work/both" >/dev/null
 is "the very spelling goes before others" "./BROOKLANDER" "$(cd both && find ./BROOKLANDER)"
 
+# Folders of the workspace, as the source tree or an installation may have them.
+mkdir -p folders/{home/brooklander/HELP/deep,samples/workspace/help/deep} folders/samples/workspace/none
+cp -r "$root/tools" "$root"/samples/{keldar.sql,lake.txt} folders
+mv folders/{keldar.sql,lake.txt} folders/samples
+for name in BROOKLANDER.HLP help/01.png help/02.png help/deep/[1].png; do
+  echo "the program's: $name" >"folders/samples/workspace/$name"
+done
+echo "mine" >folders/home/brooklander/HELP/01.PNG
+is "folders are laid down" "$work/folders/home/brooklander/keldar.db
+status 0" "$(lay_down folders/tools "$work/folders/home")"
+is "what is missing in folders is added, whatever their spelling" './brooklander
+./brooklander/BROOKLANDER.HLP
+./brooklander/HELP
+./brooklander/HELP/01.PNG
+./brooklander/HELP/02.png
+./brooklander/HELP/deep
+./brooklander/HELP/deep/[1].png
+./brooklander/keldar.db
+./brooklander/none
+./brooklander/samples
+./brooklander/samples/lake.txt' "$(names folders/home | tail -n +2)"
+is "a file in such a folder is the program's" "the program's: help/deep/[1].png" \
+  "$(cat 'folders/home/brooklander/HELP/deep/[1].png')"
+is "a file of the user's in such a folder is left there" "mine" \
+  "$(cat folders/home/brooklander/HELP/01.PNG)"
+
 # What cannot be done.
 is "a home that is missing is told" "\"$work/none/brooklander\" cannot be made: No such file or directory.
 status 1" "$(lay_down "$work/none")"

@@ -11,6 +11,8 @@ std::unique_ptr<QApplication> make_application(int& argc, char** argv) {
     auto application = std::make_unique<QApplication>(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("brooklander"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Brooklander"));
+    // By this name a desktop finds the menu entry of an installation, and with it the icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("brooklander"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // Without a desktop there is no font of the desktop's own; pictures then are the same anywhere.
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {

@@ -7,6 +7,7 @@
 #include "platform/database/odbc_database.h"
 #include "platform/desktop/application.h"
 #include "platform/desktop/failure_box.h"
+#include "platform/desktop/first_start.h"
 #include "platform/desktop/help_window.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
@@ -20,6 +21,8 @@ constexpr int ended_by_failure = 1;
 
 int run(int argc, char** argv) {
     const auto application = make_application(argc, argv);
+    QString untold = run_first_start(first_start_script());
+    if (!untold.isEmpty()) std::cerr << untold.toStdString() << std::endl;
     HostFiles files(home_folder());
     OdbcDatabase database;
     HelpWindow help(files);
@@ -32,12 +35,17 @@ int run(int argc, char** argv) {
             qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
     };
     windows.on_end = [&exit_with] { exit_with(EXIT_SUCCESS); };
-    windows.on_failure = [&exit_with](const QString& sentence) {
+    windows.on_failure = [&](const QString& sentence) {
         std::cerr << sentence.toStdString() << std::endl;
-        FailureBox(sentence).exec();
+        // What could not be laid down is the likely cause of a failure before the first window.
+        FailureBox(untold.isEmpty() ? sentence : untold + QStringLiteral("\n\n") + sentence).exec();
         exit_with(ended_by_failure);
     };
     windows.act([&program] { program.start(); });
+    if (windows.foremost() != nullptr && !untold.isEmpty()) {
+        tell_first_start(untold, *windows.foremost());
+        untold.clear();
+    }
     return QApplication::exec();
 }
 

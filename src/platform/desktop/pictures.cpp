@@ -29,34 +29,6 @@ QPainterPath wave(qreal width, qreal height, qreal rise, qreal lengths, qreal sh
     return path;
 }
 
-// A drop with two waves in it, on a square of teal.
-QPixmap icon_picture(int size) {
-    QPixmap picture(size, size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 64.0, size / 64.0);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x0a, 0x6e, 0x8c));
-    painter.drawRoundedRect(QRectF(1, 1, 62, 62), 13, 13);
-
-    QPainterPath drop;
-    drop.moveTo(32, 8);
-    drop.cubicTo(38, 19, 51, 28, 51, 40);
-    drop.cubicTo(51, 50, 42.5, 57, 32, 57);
-    drop.cubicTo(21.5, 57, 13, 50, 13, 40);
-    drop.cubicTo(13, 28, 26, 19, 32, 8);
-    painter.setBrush(Qt::white);
-    painter.drawPath(drop);
-
-    painter.setClipPath(drop);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(0x0a, 0x6e, 0x8c), 4));
-    painter.drawPath(wave(64, 38, 2.5, 2, 0));
-    painter.drawPath(wave(64, 47, 2.5, 2, 0.5));
-    return picture;
-}
-
 }  // namespace
 
 QPixmap water(const Colours& colours, qreal pixels_to_one) {
@@ -82,9 +54,37 @@ QPixmap water(const Colours& colours, qreal pixels_to_one) {
     return tile;
 }
 
+// A drop with two waves in it, on a square of teal.
+QImage icon_picture(int size) {
+    QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / 64.0, size / 64.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x0a, 0x6e, 0x8c));
+    painter.drawRoundedRect(QRectF(1, 1, 62, 62), 13, 13);
+
+    QPainterPath drop;
+    drop.moveTo(32, 8);
+    drop.cubicTo(38, 19, 51, 28, 51, 40);
+    drop.cubicTo(51, 50, 42.5, 57, 32, 57);
+    drop.cubicTo(21.5, 57, 13, 50, 13, 40);
+    drop.cubicTo(13, 28, 26, 19, 32, 8);
+    painter.setBrush(Qt::white);
+    painter.drawPath(drop);
+
+    painter.setClipPath(drop);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(0x0a, 0x6e, 0x8c), 4));
+    painter.drawPath(wave(64, 38, 2.5, 2, 0));
+    painter.drawPath(wave(64, 47, 2.5, 2, 0.5));
+    return picture;
+}
+
 QIcon program_icon() {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(icon_picture(size));
+    for (const int size : icon_sizes) icon.addPixmap(QPixmap::fromImage(icon_picture(size)));
     return icon;
 }
 
