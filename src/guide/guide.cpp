@@ -109,8 +109,8 @@ void make_page(const scenario::Options& options, const scenario::FrontMaker& mak
     std::unique_ptr<Stage> stage;
     Page page({.value_of = [&stage](auto written) { return value_of(written, *stage); },
                .fields_of =
-                   [&stage](auto path, auto activity_id) {
-                       return load_file_fields(*stage, path, activity_id);
+                   [&stage](auto path, auto activity_id, auto name) {
+                       return load_file_fields(*stage, path, activity_id, name);
                    }},
               !options.shots.empty());
     for (std::size_t i = 1; i < options.files.size(); ++i) {

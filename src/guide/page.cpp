@@ -119,8 +119,8 @@ void Page::add_line(const std::string& line) {
         put_paragraph();
         close_list();
         table_.push_back(cells_of(text));
-    } else if (text.starts_with("![")) {
-        put_picture(text);
+    } else if (trim(text).starts_with("![")) {
+        put_picture(trim(text));
     } else if (text.starts_with("@fields ")) {
         begin_fields(text);
     } else {
@@ -241,8 +241,8 @@ void Page::put_table() {
 void Page::begin_fields(std::string_view line) {
     put_paragraph();
     const auto words = scenario::words_of(line, {});
-    if (words.size() != 3) throw Unmet("It is written @fields PATH ID.");
-    fields_ = source_.fields_of(words[1], words[2]);
+    if (words.size() != 4) throw Unmet("It is written @fields PATH ID NAME.");
+    fields_ = source_.fields_of(words[1], words[2], words[3]);
     if (fields_.empty()) throw Unmet("The load file has no line with the id " + words[2] + ".");
 }
 

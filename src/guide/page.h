@@ -7,7 +7,8 @@
 //   two blanks, text    a further paragraph of the item
 //   | a | b |           a row of a table; the first one is its heading
 //   ![words](name)      the picture that a `shot` of that name has taken
-//   @fields PATH ID     the table behind it has a row `| field | where from | what |` for each
+//   @fields PATH ID NAME
+//                       the table behind it has a row `| field | where from | what |` for each
 //   field
 //                       of a load file's line, with the value of that field put in; where it comes
 //                       from, another value or nothing, is held against it
@@ -31,7 +32,10 @@ class Page {
   public:
     struct Source {
         std::function<Value(std::string_view)> value_of;
-        std::function<std::vector<std::string>(std::string_view, std::string_view)> fields_of;
+        // of the line of a load file, by its path, the activity id and the characteristic
+        std::function<std::vector<std::string>(std::string_view, std::string_view,
+                                               std::string_view)>
+            fields_of;
     };
 
     // Pictures are left out where none are taken.

@@ -1,5 +1,8 @@
 #include "guide/values.h"
 
+#include <algorithm>
+
+#include "characteristics/defaults_layout.h"
 #include "platform/fatal_failure.h"
 #include "scenario/arguments.h"
 #include "scenario/scenario_error.h"
@@ -16,6 +19,7 @@ using scenario::Unmet;
 using Words = std::vector<std::string>;
 
 constexpr std::size_t place_of_activity_id = 6;  // from 0, among the fields of a line
+constexpr std::size_t place_of_name = 19;        // of the characteristic
 constexpr std::size_t key_width = 19;            // of a configuration file
 constexpr std::size_t setting_start = 21;
 
@@ -51,6 +55,10 @@ const std::string& piece(const std::vector<std::string>& pieces, const std::stri
     return pieces[wanted - 1];
 }
 
+std::string behind(std::string_view written, std::string_view verb) {
+    return std::string(trim(trim(written).substr(verb.size())));
+}
+
 const Field& seen_field(const Stage& stage, const std::string& path) {
     scenario::kind_of(path);  // complains of a name that no screen has
     if (!stage.running()) throw Unmet("The program does not run.");
@@ -66,6 +74,11 @@ Value caption(const Stage& stage, const std::string& path) {
     return {Value::Kind::caption, text};
 }
 
+// A heading is a caption like any other.
+Value::Kind kind_in(const Grid& grid, int row) {
+    return row < grid.fixed_rows() ? Value::Kind::caption : Value::Kind::text;
+}
+
 Value grid_cell(const Stage& stage, const Words& words) {
     const Field& field = seen_field(stage, words[0]);
     if (field.kind() != FieldKind::grid) throw Unmet(words[0] + " is no grid.");
@@ -74,7 +87,7 @@ Value grid_cell(const Stage& stage, const Words& words) {
     const int column = scenario::number_in(words[2], "column");
     if (row >= grid.rows() || column >= grid.columns())
         throw Unmet(words[0] + " has no such cell.");
-    return {Value::Kind::text, std::string(grid.cell(row, column))};
+    return {kind_in(grid, row), std::string(grid.cell(row, column))};
 }
 
 Value setting(const Stage& stage, const std::string& path, const std::string& key) {
@@ -86,6 +99,17 @@ Value setting(const Stage& stage, const std::string& path, const std::string& ke
     throw Unmet("\"" + path + "\" says nothing of " + key + ".");
 }
 
+// How much of a detail all who read a line of characteristics keep.
+Value room(std::string_view heading) {
+    for (const DefaultsField& field : defaults_fields) {
+        if (field.heading != heading) continue;
+        const auto kept = [&field](const Cut& cut) { return cut.start + cut.length - field.stop; };
+        return {Value::Kind::text,
+                std::to_string(std::min(kept(field.for_display), kept(field.for_conversion)))};
+    }
+    throw Unmet("No detail has the heading " + std::string(heading) + ".");
+}
+
 Value load_file_field(const Stage& stage, const Words& words) {
     const auto fields = load_file_fields(stage, words[1], words[2]);
     if (fields.empty()) return {Value::Kind::no_line};
@@ -95,11 +119,11 @@ Value load_file_field(const Stage& stage, const Words& words) {
 }  // namespace
 
 std::vector<std::string> load_file_fields(const Stage& stage, std::string_view path,
-                                          std::string_view activity_id) {
+                                          std::string_view activity_id, std::string_view name) {
     for (const std::string& line : lines_of(stage, path)) {
         std::vector<std::string> fields = cut(line, '~');
-        if (fields.size() > place_of_activity_id && fields[place_of_activity_id] == activity_id)
-            return fields;
+        if (fields.size() <= place_of_name || fields[place_of_activity_id] != activity_id) continue;
+        if (name.empty() || fields[place_of_name] == name) return fields;
     }
     return {};
 }
@@ -110,6 +134,8 @@ Value value_of(std::string_view written, const Stage& stage) {
         return words.size() == count && words.front() == verb;
     };
     if (words.empty()) throw Unmet("There is no name between the braces.");
+    if (words.front() == "room") return room(behind(written, "room "));
+    if (words.front() == "text") return {Value::Kind::text, behind(written, "text ")};
     if (is("cell", 4)) {
         const std::string line = piece(lines_of(stage, words[1]), words[2], "line");
         return {Value::Kind::text, piece(cut(line, '\t'), words[3], "cell")};
@@ -118,6 +144,10 @@ Value value_of(std::string_view written, const Stage& stage) {
     if (is("setting", 3)) return setting(stage, words[1], words[2]);
     if (is("line", 3))
         return {Value::Kind::text, piece(lines_of(stage, words[1]), words[2], "line")};
+    if (is("count", 3)) {
+        const auto fields = cut(piece(lines_of(stage, words[1]), words[2], "line"), '~');
+        return {Value::Kind::text, std::to_string(fields.size())};
+    }
     if (is("lines", 2)) {
         return {Value::Kind::text, std::to_string(lines_of(stage, words[1]).size())};
     }

@@ -29,15 +29,18 @@ struct Value {
 //   field PATH ID N      the Nth field of the first line of a load file with that activity id
 //   setting PATH KEY     what a configuration file says under a key
 //   line PATH LINE       a whole line of a file
+//   count PATH LINE      how many fields a line of a load file has
 //   lines PATH           how many lines a file has
+//   room HEADING         how many letters of a characteristic's detail every reader keeps
+//   text WORDS           these very words
 //
 // Throws Unmet where there is none. That a field is not on the screen is such a case, too: what the
 // prose names, a reader who follows it must see.
 Value value_of(std::string_view written, const scenario::Stage& stage);
 
-// The fields of the first line of a load file with an activity id; none where there is no such
-// line.
+// The fields of the first line of a load file with an activity id, and with a characteristic where
+// one is named; none where there is no such line.
 std::vector<std::string> load_file_fields(const scenario::Stage& stage, std::string_view path,
-                                          std::string_view activity_id);
+                                          std::string_view activity_id, std::string_view name = {});
 
 }  // namespace brooklander::guide
