@@ -92,6 +92,7 @@ constexpr std::string_view table_end = "</table>\n";
 std::string html_of(const Value& value) {
     switch (value.kind) {
         case Value::Kind::caption: return "<b>" + escaped(to_utf8(value.text)) + "</b>";
+        case Value::Kind::number: return value.text;
         case Value::Kind::no_line: return "<i>no line</i>";
         case Value::Kind::text: break;
     }
@@ -124,13 +125,20 @@ void Page::add_line(const std::string& line) {
     } else if (text.starts_with("@fields ")) {
         begin_fields(text);
     } else {
-        if (paragraph_.empty() && !text.starts_with("  ")) close_list();
+        const bool goes_on = !paragraph_.empty() || !paragraph_done_.empty();
+        if (!goes_on && !text.starts_with("  ")) close_list();
         if (!paragraph_.empty()) paragraph_ += ' ';
         paragraph_ += trim(text);
     }
 }
 
 void Page::end_part() {
+    if (paragraph_.ends_with('\\')) {
+        paragraph_.pop_back();
+        paragraph_done_ += inline_html(paragraph_);
+        paragraph_.clear();
+        return;
+    }
     put_paragraph();
     put_table();
 }
@@ -209,11 +217,12 @@ void Page::put_picture(std::string_view line) {
 }
 
 void Page::put_paragraph() {
-    if (paragraph_.empty()) return;
-    const std::string html = inline_html(paragraph_);
+    if (paragraph_.empty() && paragraph_done_.empty()) return;
+    const std::string html = paragraph_done_ + inline_html(paragraph_);
     body_ += paragraph_starts_item_ ? html : "<p>" + html + "</p>\n";
     if (paragraph_starts_item_) body_ += '\n';
     paragraph_.clear();
+    paragraph_done_.clear();
     paragraph_starts_item_ = false;
 }
 

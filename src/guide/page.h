@@ -12,7 +12,7 @@
 //   field
 //                       of a load file's line, with the value of that field put in; where it comes
 //                       from, another value or nothing, is held against it
-//   anything else       a paragraph
+//   anything else       a paragraph; with a backslash at its end, it goes on behind the commands
 //
 // and within a line: {a value}, `as it is written`, __weight__ and [words](#name). Only a value
 // gets bold letters, so that every bold caption is the program's own.
@@ -44,7 +44,7 @@ class Page {
     // Takes the next line of prose in. Throws Unmet, without a place, where it cannot be told.
     void add_line(const std::string& line);
 
-    // Ends the paragraph or table; a list stays open.
+    // Ends the paragraph, if it does not go on, or the table; a list stays open.
     void end_part();
 
     // A picture has been taken, and can be shown from now on.
@@ -74,6 +74,7 @@ class Page {
     std::string body_;
     std::string title_;
     std::string paragraph_;
+    std::string paragraph_done_;  // HTML of its beginning, before the commands in its middle
     bool paragraph_starts_item_ = false;
     std::vector<std::vector<std::string>> table_;
     std::vector<std::string> fields_;  // of the line that the table tells of; empty for any other

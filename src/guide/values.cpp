@@ -99,13 +99,14 @@ Value setting(const Stage& stage, const std::string& path, const std::string& ke
     throw Unmet("\"" + path + "\" says nothing of " + key + ".");
 }
 
+Value number(std::size_t count) { return {Value::Kind::number, std::to_string(count)}; }
+
 // How much of a detail all who read a line of characteristics keep.
 Value room(std::string_view heading) {
     for (const DefaultsField& field : defaults_fields) {
         if (field.heading != heading) continue;
         const auto kept = [&field](const Cut& cut) { return cut.start + cut.length - field.stop; };
-        return {Value::Kind::text,
-                std::to_string(std::min(kept(field.for_display), kept(field.for_conversion)))};
+        return number(std::min(kept(field.for_display), kept(field.for_conversion)));
     }
     throw Unmet("No detail has the heading " + std::string(heading) + ".");
 }
@@ -146,10 +147,10 @@ Value value_of(std::string_view written, const Stage& stage) {
         return {Value::Kind::text, piece(lines_of(stage, words[1]), words[2], "line")};
     if (is("count", 3)) {
         const auto fields = cut(piece(lines_of(stage, words[1]), words[2], "line"), '~');
-        return {Value::Kind::text, std::to_string(fields.size())};
+        return number(fields.size());
     }
     if (is("lines", 2)) {
-        return {Value::Kind::text, std::to_string(lines_of(stage, words[1]).size())};
+        return number(lines_of(stage, words[1]).size());
     }
     if (words.size() == 1) return caption(stage, words[0]);
     if (words.size() == 3) return grid_cell(stage, words);

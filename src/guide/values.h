@@ -15,6 +15,7 @@ struct Value {
     enum class Kind {
         caption,  // what a user sees a field say
         text,     // what stands in a cell or in a file
+        number,   // a count
         no_line,  // there is no line in the file to take it from
     };
     Kind kind = Kind::text;
