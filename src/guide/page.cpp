@@ -212,7 +212,7 @@ void Page::put_picture(std::string_view line) {
     if (!pictures_.contains(name)) throw Unmet("No picture " + name + " has been taken so far.");
     pictures_to_show_.erase(name);
     if (!with_pictures_) return;
-    if (!body_.ends_with('\n')) body_ += '\n';
+    if (!body_.empty() && !body_.ends_with('\n')) body_ += '\n';
     body_ += "<p><img src=\"help/" + name + ".png\" alt=\"" + escaped(*words) + "\"></p>\n";
 }
 

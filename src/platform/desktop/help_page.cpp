@@ -133,7 +133,7 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event) {
-    const int before = place();
+    const Place before = place();
     QTextBrowser::resizeEvent(event);
     if (showing_) return;
     scroll_to(before);
@@ -142,7 +142,7 @@ void HelpPage::resizeEvent(QResizeEvent* event) {
 
 void HelpPage::fit_pictures() {
     if (viewport()->width() == fitted_width_) return;
-    const int before = place();
+    const Place before = place();
     fitted_width_ = viewport()->width();
     for (const QString& name : std::as_const(pictures_)) {
         document()->addResource(QTextDocument::ImageResource, QUrl(name), fitted(name));
@@ -155,27 +155,33 @@ void HelpPage::fit_pictures() {
 void HelpPage::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() != QEvent::PaletteChange || showing_ || html_.isEmpty()) return;
-    const int before = place();
+    const Place before = place();
     show_page();
     scroll_to(before);
 }
 
-int HelpPage::place() const { return cursorForPosition(QPoint(page_margin, 1)).position(); }
+HelpPage::Place HelpPage::place() const {
+    const int position = cursorForPosition(QPoint(page_margin, 1)).position();
+    return {position, verticalScrollBar()->value() - top_of_paragraph(position)};
+}
 
-void HelpPage::scroll_to(int position) {
+int HelpPage::top_of_paragraph(int position) const {
     const QTextBlock block = document()->findBlock(position);
-    verticalScrollBar()->setValue(
-        static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top()));
+    return static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top());
+}
+
+void HelpPage::scroll_to(const Place& place) {
+    verticalScrollBar()->setValue(top_of_paragraph(place.position) + place.beyond);
 }
 
 void HelpPage::go_to(int position) {
     places_.push_back(place());
-    scroll_to(position);
+    scroll_to({position, 0});
     if (on_moved) on_moved();
 }
 
 void HelpPage::go_to_name(const QString& name) {
-    const int before = place();
+    const Place before = place();
     scrollToAnchor(name);
     places_.push_back(before);
     if (on_moved) on_moved();
@@ -183,9 +189,9 @@ void HelpPage::go_to_name(const QString& name) {
 
 void HelpPage::back() {
     if (places_.empty()) return;
-    const int position = places_.back();
+    const Place before = places_.back();
     places_.pop_back();
-    scroll_to(position);
+    scroll_to(before);
     if (on_moved) on_moved();
 }
 

@@ -33,8 +33,8 @@ class HelpPage : public QTextBrowser {
     void back();
     bool can_go_back() const { return !places_.empty(); }
 
-    // The place of the text at the upper edge of the window.
-    int place() const;
+    // Where the text at the upper edge of the window stands.
+    int position_in_sight() const { return place().position; }
 
     // Selects the next place with these words, from the start again behind the last; false where
     // there is none. Case does not count.
@@ -48,8 +48,16 @@ class HelpPage : public QTextBrowser {
     void changeEvent(QEvent* event) override;
 
   private:
+    // A place that stays the same when the lines break elsewhere.
+    struct Place {
+        int position;  // in the text
+        int beyond;    // so many pixels below the top of its paragraph
+    };
+
     void show_page();
-    void scroll_to(int position);
+    Place place() const;
+    void scroll_to(const Place& place);
+    int top_of_paragraph(int position) const;
     void fit_pictures();
     QByteArray picture_bytes(const QString& name) const;
     QImage fitted(const QString& name) const;
@@ -60,7 +68,7 @@ class HelpPage : public QTextBrowser {
     QString html_;
     QStringList pictures_;
     std::vector<Heading> headings_;
-    std::vector<int> places_;
+    std::vector<Place> places_;
     int fitted_width_ = 0;
     QTimer fitting_;
     bool showing_ = false;

@@ -158,7 +158,7 @@ class HelpWindow::Viewer : public QWidget {
     void follow_page() {
         back_->setEnabled(page_->can_go_back());
         if (contents_->hasFocus()) return;
-        const int place = page_->place();
+        const int place = page_->position_in_sight();
         int row = 0;
         while (row + 1 < contents_->count() &&
                contents_->item(row + 1)->data(Qt::UserRole).toInt() <= place) {
