@@ -13,6 +13,7 @@
 #include <QTextImageFormat>
 #include <fstream>
 
+#include "platform/desktop/colours.h"
 #include "platform/desktop/help_page.h"
 #include "platform/desktop/help_window.h"
 #include "platform/desktop/warnings.h"
@@ -127,6 +128,35 @@ TEST(HelpIsShown, ItStartsAtItsTopEachTime) {
     help.show();
     EXPECT_EQ(help.page()->verticalScrollBar()->value(), 0);
     EXPECT_FALSE(help.part<QPushButton>("helpBack")->isEnabled());
+}
+
+TEST(HelpIsShown, ItFollowsADarkDesktop) {
+    Help help;
+    help.show();
+    const auto colour_of_title = [&] {
+        return help.page()
+            ->document()
+            ->begin()
+            .begin()
+            .fragment()
+            .charFormat()
+            .foreground()
+            .color();
+    };
+    EXPECT_EQ(colour_of_title(), own_colours().title);
+    const QColor in_the_light = colour_of_title();
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(0x2b, 0x2d, 0x30));
+    dark.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
+    dark.setColor(QPalette::Text, QColor(0xe4, 0xe6, 0xe8));
+    dark.setColor(QPalette::WindowText, QColor(0xe4, 0xe6, 0xe8));
+    QApplication::setPalette(dark);
+    QApplication::processEvents();
+    EXPECT_EQ(colour_of_title(), own_colours().title);
+    EXPECT_NE(colour_of_title(), in_the_light);
+    QApplication::setPalette(before);
+    QApplication::processEvents();
+    EXPECT_EQ(colour_of_title(), in_the_light);
 }
 
 TEST(WaysThroughTheHelp, TheContentsNameTheHeadingsAndMarkTheOneInSight) {

@@ -30,7 +30,7 @@ is "a field that there is not is told" "chapter.guide:1: The screen frmStart has
 status 2" "$(told '#| Press {frmStart.cmdGo}.')"
 is "a value before the program runs is told" "chapter.guide:1: The program does not run.
 status 1" "$(told '#| Press {frmStart.mnuHelp}.')"
-is "a step that fails is told" "chapter.guide:4: frmStart.cmdView is hidden by its panel frmStart.frameFiles.
+is "a step that fails is told" "chapter.guide:4: A user cannot do that to frmStart.cmdView: frmStart.cmdView is disabled.
 status 1" "$(told '#| # Help' "$started" 'click frmStart.cmdView')"
 is "a line that is no command is told before anything is played" \
   "chapter.guide:2: There is no command \"clik\".
