@@ -43,6 +43,12 @@ std::string with_blanks_shown(std::string_view text) {
     return html;
 }
 
+// A caption that stands before its field ends in a colon, which a sentence has no use for.
+std::string_view without_colon(std::string_view caption) {
+    if (caption.ends_with(':')) caption.remove_suffix(1);
+    return caption;
+}
+
 // The text between two marks, taken off the front of `rest` with them; nothing where the second is
 // missing.
 std::optional<std::string_view> take_between(std::string_view& rest, std::string_view open,
@@ -91,7 +97,8 @@ constexpr std::string_view table_end = "</table>\n";
 
 std::string html_of(const Value& value) {
     switch (value.kind) {
-        case Value::Kind::caption: return "<b>" + escaped(to_utf8(value.text)) + "</b>";
+        case Value::Kind::caption:
+            return "<b>" + escaped(without_colon(to_utf8(value.text))) + "</b>";
         case Value::Kind::number: return value.text;
         case Value::Kind::no_line: return "<i>no line</i>";
         case Value::Kind::text: break;
@@ -108,7 +115,7 @@ void Page::add_line(const std::string& line) {
     const std::size_t digits = text.find_first_not_of("0123456789");
     if (!text.starts_with('|')) put_table();
     if (trim(text).empty()) {
-        put_paragraph();
+        if (!paragraph_.ends_with('\\')) put_paragraph();
     } else if (text.starts_with('#')) {
         put_heading(text);
     } else if (text.starts_with("- ")) {

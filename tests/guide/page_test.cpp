@@ -60,7 +60,7 @@ TEST(PageOfTheGuide, ParagraphsEndBeforeCommands) {
 
 TEST(PageOfTheGuide, ABackslashCarriesAParagraphOverCommands) {
     TestPage page;
-    page.part({"One \\"});
+    page.part({"One \\", ""});
     page.part({"two."});
     EXPECT_EQ(page.body(), "<p>One two.</p>\n");
 }
@@ -140,6 +140,11 @@ TEST(ValuesOfTheGuide, BlanksAtTheEndsOfATextCanBeSeen) {
     EXPECT_EQ(html_of({Value::Kind::text, "<5 \xB5g"}), "<tt>&lt;5 \u00B5g</tt>");
     EXPECT_EQ(html_of({Value::Kind::no_line, ""}), "<i>no line</i>");
     EXPECT_EQ(html_of({Value::Kind::number, "33"}), "33");
+}
+
+TEST(ValuesOfTheGuide, CaptionsGoWithoutTheColonAtTheirEnd) {
+    EXPECT_EQ(html_of({Value::Kind::caption, "User ID:"}), "<b>User ID</b>");
+    EXPECT_EQ(html_of({Value::Kind::caption, "Use => <X>?"}), "<b>Use =&gt; &lt;X&gt;?</b>");
 }
 
 }  // namespace
