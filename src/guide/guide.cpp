@@ -92,7 +92,7 @@ void play_chapter(const fs::path& file, Stage& stage, Page& page) {
 }
 
 fs::path fresh_home(const fs::path& homes, const fs::path& chapter) {
-    const fs::path home = homes / chapter.stem();
+    fs::path home = homes / chapter.stem();
     fs::remove_all(home);
     fs::create_directories(home);
     return home;

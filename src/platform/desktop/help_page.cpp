@@ -111,7 +111,9 @@ QByteArray HelpPage::picture_bytes(const QString& name) const {
 // No wider than the text, and never larger than it is; on a fine screen with all the dots that
 // there are.
 QImage HelpPage::fitted(const QString& name) const {
-    const QImage image = QImage::fromData(picture_bytes(name));
+    // What is painted on must not have a table of colours.
+    QImage image =
+        QImage::fromData(picture_bytes(name)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return image;
     const int room = std::max(viewport()->width() - 2 * page_margin - item_indent, 100);
     const int width = std::min(image.width(), room);
