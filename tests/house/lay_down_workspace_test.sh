@@ -25,7 +25,6 @@ state() { (cd "$1" && find . -printf '%p %y %T@ %l ' \( -type f -exec md5sum {} 
 
 everything='.
 ./brooklander
-./brooklander/BROOKLANDER.HLP
 ./brooklander/duration.txt
 ./brooklander/keldar.db
 ./brooklander/samplefraction.txt
@@ -46,6 +45,23 @@ is "the sample table is the sample's" "" \
 is "the database is what the script makes" "$(sqlite3 -batch '' ".read '$root/samples/keldar.sql'" .dump)" \
   "$(sqlite3 -batch fresh/brooklander/keldar.db .dump)"
 
+# The workspace that a build has made, with the help.
+mkdir -p built/help of_a_build
+touch built/BROOKLANDER.HLP built/help/1.png built/duration.txt
+export BROOKLANDER_WORKSPACE=$work/built
+is "the workspace of a build is taken" "$work/of_a_build/brooklander/keldar.db
+status 0" "$(lay_down "$work/of_a_build")"
+unset BROOKLANDER_WORKSPACE
+is "the help comes with its pictures" '.
+./brooklander
+./brooklander/BROOKLANDER.HLP
+./brooklander/duration.txt
+./brooklander/help
+./brooklander/help/1.png
+./brooklander/keldar.db
+./brooklander/samples
+./brooklander/samples/lake.txt' "$(names of_a_build)"
+
 before=$(state fresh)
 is "a second time ends well" "$work/fresh/brooklander/keldar.db
 status 0" "$(lay_down "$work/fresh")"
@@ -63,7 +79,7 @@ is "a home can have any name" "$everything" "$(names 'name; of $odd "make"')"
 
 # A user's own files, in spellings of the user's own.
 mkdir -p own/BrookLander/Samples
-for name in brooklander.hlp Duration.TXT KELDAR.DB Samples/LAKE.txt; do
+for name in samplefraction.TXT Duration.TXT KELDAR.DB Samples/LAKE.txt; do
   echo "mine: $name" >"own/BrookLander/$name"
 done
 ln -s nowhere own/BrookLander/Temperature.txt
@@ -77,10 +93,9 @@ is "only what is missing is added" '.
 ./BrookLander/Samples
 ./BrookLander/Samples/LAKE.txt
 ./BrookLander/Temperature.txt
-./BrookLander/brooklander.hlp
-./BrookLander/samplefraction.txt
+./BrookLander/samplefraction.TXT
 ./BrookLander/statistictype.txt' "$(names own)"
-rm own/BrookLander/samplefraction.txt own/BrookLander/statistictype.txt
+rm own/BrookLander/statistictype.txt
 files() { grep -v ' d ' <<<"$1"; }  # STATE
 is "the user's own files stay as they are" "$(files "$before")" "$(files "$(state own)")"
 

@@ -36,8 +36,12 @@ is "the metainfo tells this version" "$version" \
 holds "everybody may use it, whoever has made it" \
   "$(dpkg-deb -c "$package" | grep -vE '^(d|-)rwxr-xr-x root/root |^-rw-r--r-- root/root ')"
 is "everything lies below usr" "usr" "$(ls -A installed)"
-is "the samples are those of the source tree" "" "$(diff -r "$root/samples" \
-  installed/usr/share/brooklander/samples 2>&1 | grep -vFx "Only in $root/samples: CMakeLists.txt")"
+share=installed/usr/share/brooklander
+is "the samples are those of the source tree" "" "$(diff -r -x CMakeLists.txt -x help -x workspace \
+  "$root/samples" $share/samples 2>&1)"
+is "the workspace is the one of the build, with the help" "" \
+  "$(diff -r "$build/workspace" $share/samples/workspace 2>&1)"
+holds "the help has its pictures" "$(ls $share/samples/workspace/help/*.png 2>&1 >/dev/null)"
 for tool in installed/usr/share/brooklander/tools/*; do
   is "${tool##*/} is that of the source tree" "" "$(cmp "$root/tools/${tool##*/}" "$tool" 2>&1)"
 done
@@ -77,7 +81,7 @@ is "the player lays nothing down" "./none" "$(cd home && find . -mindepth 1)"
 rmdir home/none
 is "the first start says nothing" "" "$(start)"
 is "the first start lays down the workspace" "" \
-  "$(diff -r "$root/samples/workspace" home/brooklander | grep -v "^Only in home/brooklander: ")"
+  "$(diff -r "$build/workspace" home/brooklander | grep -v "^Only in home/brooklander: ")"
 is "the first start lays down the sample table" "" \
   "$(cmp "$root/samples/lake.txt" home/brooklander/samples/lake.txt 2>&1)"
 is "the first start makes the data source" "Database=$work/home/brooklander/keldar.db" \

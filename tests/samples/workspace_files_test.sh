@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The files that an installation lays down in the workspace: the four reference lists and the help.
+# The reference lists that an installation lays down in the workspace.
 #   workspace_files_test.sh SAMPLES_FOLDER
 set -uo pipefail
 . "$(dirname "$0")/../support/checks.sh"
@@ -29,15 +29,5 @@ holds "a fraction with a comma is quoted" "$(grep ',' samplefraction.txt | grep 
 holds "the database's fractions are in the list" "$(comm -13 <(entries samplefraction.txt | sort) <(
   { cat "$database" && echo 'SELECT DISTINCT smpl_frac_type_nm FROM tsrchdef
                              WHERE smpl_frac_type_nm IS NOT NULL;'; } | sqlite3 -batch | sort))"
-
-help=BROOKLANDER.HLP
-holds "the help is UTF-8" "$(iconv -f UTF-8 -t UTF-8 $help 2>&1 >/dev/null)"
-holds "the help needs nothing but text" "$(grep -inE '<(img|script|link|style)|https?://' $help)"
-holds "each link of the help leads to a section" "$(comm -3 \
-  <(grep -o 'href="#[^"]*' $help | cut -d '#' -f 2 | sort) \
-  <(grep -o 'a name="[^"]*' $help | cut -d '"' -f 2 | sort))"
-holds "each element of the help is closed" "$(comm -3 \
-  <(grep -oE '<(h[1-3]|p|ul|ol|li|table|tr|td|th|a|b|i|tt)[ >]' $help | tr -d '<> ' | sort) \
-  <(grep -oE '</(h[1-3]|p|ul|ol|li|table|tr|td|th|a|b|i|tt)>' $help | tr -d '</>' | sort))"
 
 count

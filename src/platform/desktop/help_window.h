@@ -6,14 +6,13 @@
 #include "platform/files.h"
 #include "platform/help.h"
 
-class QTextBrowser;
 class QWidget;
 
 namespace brooklander::desktop {
 
 class HelpWindow : public Help {
   public:
-    // Reads help files, which are simple HTML in UTF-8, from these files.
+    // Reads help files, which are simple HTML in UTF-8, and their pictures from these files.
     explicit HelpWindow(const Files& files);
     ~HelpWindow() override;
 
@@ -25,8 +24,10 @@ class HelpWindow : public Help {
     QWidget* window() const;
 
   private:
+    class Viewer;
+
     const Files& files_;
-    std::unique_ptr<QTextBrowser> browser_;
+    std::unique_ptr<Viewer> viewer_;
 };
 
 }  // namespace brooklander::desktop

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Where the guide and the program differ no help is made, and the place is told.
+#   refusals_test.sh GUIDE_MAKER
+set -uo pipefail
+. "$(dirname "$0")/../support/checks.sh"
+maker=$(realpath "$1")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit
+
+# What is told of a chapter, and whether a page was written.
+told() {  # LINE...
+  printf '%s\n' "$@" >chapter.guide
+  rm -f page
+  "$maker" --home homes page chapter.guide 2>&1
+  echo "status $?"
+  [[ ! -e page ]] || echo "a page"
+}
+started='make c:\brooklander
+start'
+
+is "a chapter that holds becomes a page" "status 0
+a page" "$(told '#| # Help [top]' "$started" '#| Press {frmStart.mnuHelp}, see [top](#top).')"
+is "the caption is the program's" '<p>Press <b>Help</b>, see <a href="#top">top</a>.</p>' \
+  "$(grep Press page)"
+is "a field that is not on the screen is told" \
+  "chapter.guide:4: frmStart.cmdView is told of, but is not on the screen.
+status 1" "$(told '#| # Help' "$started" '#| Press {frmStart.cmdView}.')"
+is "a field that there is not is told" "chapter.guide:1: The screen frmStart has no field \"cmdGo\".
+status 2" "$(told '#| Press {frmStart.cmdGo}.')"
+is "a value before the program runs is told" "chapter.guide:1: The program does not run.
+status 1" "$(told '#| Press {frmStart.mnuHelp}.')"
+is "a step that fails is told" "chapter.guide:4: A user cannot do that to frmStart.cmdView: frmStart.cmdView is disabled.
+status 1" "$(told '#| # Help' "$started" 'click frmStart.cmdView')"
+is "a line that is no command is told before anything is played" \
+  "chapter.guide:2: There is no command \"clik\".
+status 2" "$(told 'start' 'clik frmStart.cmdView')"
+is "a link that leads nowhere is told" "A link leads to nowhere, which is nowhere.
+status 1" "$(told '#| See [this](#nowhere).')"
+is "a file that cannot be read is told" "status 1" "$(told '#| See {line c:\none.txt 1}.' | tail -n 1)"
+
+count
