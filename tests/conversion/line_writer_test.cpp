@@ -46,7 +46,8 @@ TEST(LineWriter, PutsPiecesOfAnyLengthOneBehindTheOther) {
                 expected += piece;
             }
         }
-        writer.finish();
+        writer.hand_on();
+        writer.close();
     }
     EXPECT_GT(expected.size(), 4 * OutputFile::good_block);
     EXPECT_TRUE(folder.read("out") == expected);
