@@ -64,5 +64,18 @@ TEST(LineWriter, LinesReachTheFileWhenItIsGivenUp) {
     EXPECT_EQ(folder.read("out"), "row~name~7~\r\n");
 }
 
+TEST(LineWriter, GivingItUpOnAFullDiskTellsNobody) {
+    test::TemporaryFolder folder;
+    test::FaultyFiles files(folder.path());
+    files.failing_writes = {1};
+    {
+        LineWriter writer(files.append("c:\\out"));
+        writer.put_line(BlockText("row~"), BlockText("name~"), Readable("7").view(),
+                        BlockText("~\r\n"));
+    }
+    EXPECT_EQ(files.writes, 1);
+    EXPECT_EQ(folder.read("out"), "");
+}
+
 }  // namespace
 }  // namespace brooklander
