@@ -55,6 +55,12 @@ void read_first_row(Grid& table, const Assignment& assignment, RowFields& fields
     if (changed) table.write_row(0, cells);
 }
 
+// The lines that are held back belong to the pass: a failure to write them is one of the pass.
+void write_all(ResultPass& pass, LineWriter& writer) {
+    pass.run();
+    writer.hand_on();
+}
+
 // The look at the result in work, as the last one leaves it.
 void show_last_result(FrmImportFileDisplay& display, const ResultPass& pass) {
     const GridCell cell = pass.last_cell();
@@ -104,12 +110,12 @@ void cmdFormatConfirm_Click(Screens& screens, Files& files) {
 
     ResultPass pass(table, assignment, fields, characteristics, writer, under_configuration);
     try {
-        pass.run();
+        write_all(pass, writer);
     } catch (const FatalFailure&) {
         if (!under_configuration) throw;
-        pass.run();
+        write_all(pass, writer);
     }
-    writer.finish();
+    writer.close();
     show_last_result(display, pass);
     table.refreshed();
     finish(display);

@@ -13,14 +13,14 @@ LineWriter::LineWriter(std::unique_ptr<OutputFile> file)
 
 LineWriter::~LineWriter() {
     try {
-        write_held_back();
+        hand_on();
     } catch (const FatalFailure&) {
         used_ = 0;
     }
 }
 
 void LineWriter::put_long_line(std::initializer_list<std::string_view> pieces) {
-    write_held_back();
+    hand_on();
     for (const std::string_view piece : pieces) write(piece);
     whole_lines_ = written_;
 }
@@ -34,7 +34,7 @@ void LineWriter::write_full_block(std::size_t last_line_start) {
     used_ = rest;
 }
 
-void LineWriter::write_held_back() {
+void LineWriter::hand_on() {
     const std::size_t held_back = std::exchange(used_, 0);
     if (held_back > 0) write({buffer_.get(), held_back});
     whole_lines_ = written_;
@@ -52,11 +52,6 @@ void LineWriter::write(std::string_view bytes) {
         file_->cut_back(whole_lines_);
         throw;
     }
-}
-
-void LineWriter::finish() {
-    write_held_back();
-    file_->close();
 }
 
 }  // namespace brooklander

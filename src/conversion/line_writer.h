@@ -95,8 +95,11 @@ class LineWriter {
         if (used_ >= OutputFile::good_block) write_full_block(line_start);
     }
 
-    // Hands everything on and closes the file. A FatalFailure when that fails.
-    void finish();
+    // Hands what is held back on to the file. Fails as put_line() does.
+    void hand_on();
+
+    // Closes the file, when all has been handed on. A FatalFailure when that fails.
+    void close() { file_->close(); }
 
   private:
     static constexpr std::size_t most_at_once = 64 * 1024;
@@ -112,7 +115,6 @@ class LineWriter {
 
     void put_long_line(std::initializer_list<std::string_view> pieces);
     void write_full_block(std::size_t last_line_start);
-    void write_held_back();
     void write(std::string_view bytes);
 
     std::unique_ptr<OutputFile> file_;

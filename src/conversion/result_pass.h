@@ -14,7 +14,7 @@ namespace brooklander {
 
 class ResultPass {
   public:
-    // With `may_restart`, run() can be called once more after it has failed; rows whose fields lie
+    // With `may_restart`, run() can be called once more after a failure; rows whose fields lie
     // in cells that the pass rewrites are then remembered. What is given must outlive the object.
     ResultPass(Grid& table, const Assignment& assignment, RowFields& fields,
                const std::vector<CharacteristicPieces>& characteristics, LineWriter& writer,

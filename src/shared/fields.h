@@ -155,7 +155,6 @@ class EntryList : public PlacedField {
 
     // The index of the selected entry, from 0.
     std::optional<std::size_t> selected() const { return selected_; }
-    bool is_selected(std::size_t index) const { return selected_ == index; }
     void select(std::size_t index);
     virtual void deselect();
 

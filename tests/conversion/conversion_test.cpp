@@ -3,6 +3,7 @@
 #include <random>
 
 #include "conversion/conversion_driver.h"
+#include "support/failure_of.h"
 #include "support/plain_conversion.h"
 #include "support/test_program.h"
 
@@ -248,6 +249,15 @@ TEST_F(ConversionForTheModule, ADataRowBeyondTheLimitIsFatalBeforeAnythingIsWrit
     ASSERT_EQ(program_.table().rows(), conversion_row_limit + 1);
     EXPECT_THROW(program_.convert(1), FatalFailure);
     EXPECT_EQ(program_.output(), "");
+}
+
+TEST_F(ConversionForTheModule, AResultBeyondTheLimitIsFatalWhereTheDataBeginsBehindIt) {
+    std::string table(static_cast<std::size_t>(conversion_row_limit) - 2, '\r');
+    prepare("S\tD\tA\rS1\tD1\t4\r" + table + "S9\tD9\t5\r");
+    import_.lblRow.set_text(std::to_string(conversion_row_limit + 1));
+    EXPECT_EQ(
+        test::failure_of([&] { import_.cmdFormatConfirm.press(); }),
+        "A table can be converted up to row " + std::to_string(conversion_row_limit) + " only.");
 }
 
 TEST_F(ConversionForTheModule, AColumnOutsideTheTableIsFatalBeforeAnythingIsWritten) {

@@ -46,7 +46,8 @@ TEST(LineWriter, PutsPiecesOfAnyLengthOneBehindTheOther) {
                 expected += piece;
             }
         }
-        writer.finish();
+        writer.hand_on();
+        writer.close();
     }
     EXPECT_GT(expected.size(), 4 * OutputFile::good_block);
     EXPECT_TRUE(folder.read("out") == expected);
@@ -61,6 +62,19 @@ TEST(LineWriter, LinesReachTheFileWhenItIsGivenUp) {
                         BlockText("~\r\n"));
     }
     EXPECT_EQ(folder.read("out"), "row~name~7~\r\n");
+}
+
+TEST(LineWriter, GivingItUpOnAFullDiskTellsNobody) {
+    test::TemporaryFolder folder;
+    test::FaultyFiles files(folder.path());
+    files.failing_writes = {1};
+    {
+        LineWriter writer(files.append("c:\\out"));
+        writer.put_line(BlockText("row~"), BlockText("name~"), Readable("7").view(),
+                        BlockText("~\r\n"));
+    }
+    EXPECT_EQ(files.writes, 1);
+    EXPECT_EQ(folder.read("out"), "");
 }
 
 }  // namespace

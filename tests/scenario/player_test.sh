@@ -53,6 +53,7 @@ expect "a secret of quotes and the count of the files" 1 $'{"field":"frmStart.tx
   -- --secret WORD secret.scn <<< '""'
 expect "a secret that no line holds" 2 '' -- --secret WORD secret.scn <<< 'Łgeheim'
 expect "a secret without input" 2 '' -- --secret WORD secret.scn < /dev/null
+expect "help" 0 "$("$player" good.scn --nothing 2>&1 >/dev/null | tail -n +2)" -- --help < /dev/null
 expect "no file" 2 '' -- < /dev/null
 expect "an option that is none" 2 '' -- --loud good.scn < /dev/null
 expect "an option without its value" 2 '' -- good.scn --with < /dev/null

@@ -315,7 +315,7 @@ TEST_F(Lists, AClickOnAnEntryRunsTheHandlerEveryTime) {
     screen_.lstEntries.click_entry(1);
     screen_.lstEntries.click_entry(1);
     EXPECT_EQ(runs_, 2);
-    EXPECT_TRUE(screen_.lstEntries.is_selected(1));
+    EXPECT_EQ(screen_.lstEntries.selected(), 1U);
 }
 
 TEST_F(Lists, DeselectingClearingAndRefillingRunNothing) {

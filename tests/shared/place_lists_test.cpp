@@ -49,6 +49,14 @@ TEST_F(PlaceLists, AnEntryStandsForAWholePathAndIsFoundByIt) {
     EXPECT_EQ(folders_.find("nowhere"), std::nullopt);
 }
 
+TEST_F(PlaceLists, ATextAssignedToAFolderListIsItsPath) {
+    std::filesystem::create_directories(test_.folder.path() / "reeds");
+    Field& field = folders_;
+    field.set_text("c:\\reeds");
+    EXPECT_EQ(folders_.path(), "c:\\reeds");
+    EXPECT_EQ(folders_.entries(), (std::vector<std::string>{"c:\\", "reeds"}));
+}
+
 TEST_F(PlaceLists, AFolderListTellsOnlyAPathThatDiffers) {
     folders_.on_change = [this] { ++runs_; };
     folders_.set_path("c:\\data");
