@@ -10,8 +10,10 @@
 #include "platform/desktop/help_window.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
+#include "platform/desktop/work_menu.h"
 #include "platform/files/host_files.h"
 #include "program.h"
+#include "scenario/recorder.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -24,7 +26,10 @@ int run(int argc, char** argv) {
     OdbcDatabase database;
     HelpWindow help(files);
     Program program({files, database, help});
+    scenario::Recorder recorder(program.screens());
+    const WorkMenu work(recorder);
     Windows windows(program.screens(), lay_out);
+    windows.on_new_window = [&work](ScreenWindow& window) { work.add_to(window); };
 
     // Both can come before the event loop runs, so that they wait for it.
     const auto exit_with = [](int status) {
