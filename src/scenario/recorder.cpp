@@ -86,11 +86,12 @@ void Recorder::take_click(Field& field) {
 }
 
 void Recorder::take_edit(TextBox& box, const Edited& edited) {
-    const bool goes_on =
-        run_ && run_->box == &box && run_->edits.back().after == box.text() && !move_;
+    const bool forced = !box.usable();
+    const bool goes_on = run_ && run_->box == &box && run_->forced == forced &&
+                         run_->edits.back().after == box.text();
     if (!goes_on) {
         write_what_waits();
-        run_ = BoxRun{&box, {}};
+        run_ = BoxRun{&box, forced, {}};
     }
     run_->edits.push_back({box.text(), edited.text});
 }
@@ -153,10 +154,16 @@ std::vector<RecordedLine> Recorder::waiting_lines() const {
         return {{"keys", move_->grid, keys}};
     }
     if (!run_) return {};
-    if (!is_credential(*run_->box)) return lines_for(*run_->box, run_->edits);
-    if (run_->edits.back().after.empty()) return {{"type", run_->box, TypedText{}}};
-    const bool is_user_id = run_->box == &screens_.frmStart.txtOracleID;
-    return {{"type", run_->box, Credential{is_user_id ? user_variable : password_variable}}};
+    std::vector<RecordedLine> lines = lines_of(*run_);
+    for (RecordedLine& line : lines) line.forced = run_->forced;
+    return lines;
+}
+
+std::vector<RecordedLine> Recorder::lines_of(const BoxRun& run) const {
+    if (!is_credential(*run.box)) return lines_for(*run.box, run.edits);
+    if (run.edits.back().after.empty()) return {{"type", run.box, TypedText{}}};
+    const bool is_user_id = run.box == &screens_.frmStart.txtOracleID;
+    return {{"type", run.box, Credential{is_user_id ? user_variable : password_variable}}};
 }
 
 void Recorder::write_what_waits() {

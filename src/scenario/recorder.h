@@ -46,6 +46,7 @@ class Recorder {
   private:
     struct BoxRun {
         TextBox* box;
+        bool forced;
         std::vector<Edit> edits;
     };
     struct GridMove {
@@ -65,6 +66,7 @@ class Recorder {
 
     // Of what still waits to be seen whole: the lines that it would be now.
     std::vector<RecordedLine> waiting_lines() const;
+    std::vector<RecordedLine> lines_of(const BoxRun& run) const;
     void write_what_waits();
 
     void note_credentials();

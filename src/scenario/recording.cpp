@@ -92,8 +92,12 @@ std::string Recording::head(std::string_view own_name, const Used& used) const {
     const auto tell = [&](const std::string& name, const char* meaning) {
         meanings += "# " + variable(name) + ": " + meaning + "\n";
     };
-    Used secret_names{user_variable, password_variable};
-    for (const Named& secret : secrets_) secret_names.insert(secret.variable);
+    // In the order in which they are typed; those that did not serve come last.
+    std::vector<std::string> secret_names{user_variable, password_variable};
+    for (const std::string& name : used) {
+        const bool is_newest = name == user_variable || name == password_variable;
+        if (!is_newest && !name.starts_with("file")) secret_names.push_back(name);
+    }
     for (const std::string& name : secret_names) {
         if (!used.contains(name)) continue;
         command += " --secret " + name;
