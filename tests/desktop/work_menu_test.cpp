@@ -56,11 +56,11 @@ class WorkMenuTest : public testing::Test, protected test::DrawnProgram {
     // come are told and answered by the button of that caption.
     void save_as(const QString& name, const QString& answer = {}) {
         choose_save([&](QDialog& dialog) {
-            if (auto* const files = qobject_cast<QFileDialog*>(&dialog)) {
-                suggested = files->selectedFiles().value(0);
-                files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
-                QTest::keyClick(files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")),
-                                Qt::Key_Return);
+            if (auto* const chooser = qobject_cast<QFileDialog*>(&dialog)) {
+                suggested = chooser->selectedFiles().value(0);
+                auto* const box = chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                box->setText(name);
+                QTest::keyClick(box, Qt::Key_Return);
                 return;
             }
             auto& box = dynamic_cast<QMessageBox&>(dialog);
@@ -110,7 +110,7 @@ TEST_F(WorkMenuTest, StandsAtTheRightEndOfEveryWindowsMenus) {
         EXPECT_EQ(work_action->objectName(), "work") << screen->name();
         EXPECT_TRUE(window.menuBar()->isVisibleTo(&window)) << screen->name();
         const QRect place = window.menuBar()->actionGeometry(work_of(window));
-        EXPECT_GE(place.right(), window.menuBar()->width() - 8) << screen->name();
+        EXPECT_GE(place.right(), window.menuBar()->width() - 16) << screen->name();
     }
     EXPECT_EQ(windows.difference().toStdString(), "");
 }
@@ -201,12 +201,12 @@ class FullDisk {
 
 TEST_F(WorkMenuTest, AFailingWriteLeavesTheOldFileAndNothingElse) {
     folder.write("saved/month.scn", "old");
-    QString failure;
+    QString sentence;
     {
         const FullDisk full;
-        failure = save_recording(recorder.recording(), in_folder("saved/month.scn"));
+        sentence = save_recording(recorder.recording(), in_folder("saved/month.scn"));
     }
-    EXPECT_TRUE(failure.contains("cannot be written")) << failure.toStdString();
+    EXPECT_TRUE(sentence.contains("cannot be written")) << sentence.toStdString();
     EXPECT_EQ(folder.read("saved/month.scn"), "old");
     EXPECT_EQ(QDir(in_folder("saved")).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }

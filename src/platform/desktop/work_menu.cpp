@@ -81,12 +81,17 @@ void WorkMenu::save_as_scenario(QWidget& window) const {
 QString save_recording(const scenario::Recording& recording, const QString& path) {
     const std::string own_name = QFileInfo(path).fileName().toStdString();
     const std::string text = recording.text(own_name);
-    QSaveFile file(path);  // writes beside it, and takes its place at the end
     const auto size = static_cast<qint64>(text.size());
-    if (file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size && file.commit()) {
-        return {};
-    }
-    return QStringLiteral("\"%1\" cannot be written: %2.").arg(path, file.errorString());
+    // Writes beside the file, and takes its place at the end. Behind a buffer it would not see that
+    // the disk took a part only.
+    QSaveFile file(path);
+    const bool is_open = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    const bool is_whole = is_open && file.write(text.data(), size) == size;
+    if (is_whole && file.commit()) return {};
+    const QString reason = file.error() == QFileDevice::NoError
+                               ? QStringLiteral("There is not enough room for it")
+                               : file.errorString();
+    return QStringLiteral("\"%1\" cannot be written: %2.").arg(path, reason);
 }
 
 }  // namespace brooklander::desktop
