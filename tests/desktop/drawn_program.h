@@ -4,10 +4,10 @@
 #include <QApplication>
 #include <QTest>
 
+#include "platform/desktop/job_menu.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/warnings.h"
 #include "platform/desktop/windows.h"
-#include "platform/desktop/work_menu.h"
 #include "support/test_program.h"
 
 namespace brooklander::test {
@@ -16,7 +16,7 @@ struct DrawnProgram : TestProgram {
     DrawnProgram() {
         windows.on_failure = [this](const QString& sentence) { failure = sentence.toStdString(); };
         windows.on_end = [this] { has_ended = true; };
-        windows.on_new_window = [this](desktop::ScreenWindow& window) { work.add_to(window); };
+        windows.on_new_window = [this](desktop::ScreenWindow& window) { job.add_to(window); };
     }
 
     // Does it as a step of the program, and lets the windows come to rest.
@@ -38,7 +38,7 @@ struct DrawnProgram : TestProgram {
     desktop::ScreenWindow& start_window() { return *windows.window_of(start_screen()); }
 
     scenario::Recorder recorder{program.screens()};
-    desktop::WorkMenu work{recorder};
+    desktop::JobMenu job{recorder};
     desktop::Windows windows{program.screens(), desktop::lay_out};
     std::string failure;
     bool has_ended = false;

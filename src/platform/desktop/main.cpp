@@ -8,9 +8,9 @@
 #include "platform/desktop/application.h"
 #include "platform/desktop/failure_box.h"
 #include "platform/desktop/help_window.h"
+#include "platform/desktop/job_menu.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
-#include "platform/desktop/work_menu.h"
 #include "platform/files/host_files.h"
 #include "program.h"
 #include "scenario/recorder.h"
@@ -27,9 +27,9 @@ int run(int argc, char** argv) {
     HelpWindow help(files);
     Program program({files, database, help});
     scenario::Recorder recorder(program.screens());
-    const WorkMenu work(recorder);
+    const JobMenu job(recorder);
     Windows windows(program.screens(), lay_out);
-    windows.on_new_window = [&work](ScreenWindow& window) { work.add_to(window); };
+    windows.on_new_window = [&job](ScreenWindow& window) { job.add_to(window); };
 
     // Both can come before the event loop runs, so that they wait for it.
     const auto exit_with = [](int status) {

@@ -10,10 +10,10 @@ namespace brooklander::desktop {
 
 // Stands at the right end of every window's menu bar, apart from the screen's own menus. It is no
 // field: nothing of the program knows of it, and what is done with it is not recorded.
-class WorkMenu {
+class JobMenu {
   public:
     // The recorder must live as long as windows have the menu.
-    explicit WorkMenu(const scenario::Recorder& recorder) : recorder_(recorder) {}
+    explicit JobMenu(const scenario::Recorder& recorder) : recorder_(recorder) {}
 
     void add_to(ScreenWindow& window) const;
 

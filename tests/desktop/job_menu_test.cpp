@@ -1,6 +1,6 @@
 // The menu that saves what was done as a scenario, on the real windows and by its real dialogs.
 
-#include "platform/desktop/work_menu.h"
+#include "platform/desktop/job_menu.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -21,14 +21,14 @@
 namespace brooklander::desktop {
 namespace {
 
-class WorkMenuTest : public testing::Test, protected test::DrawnProgram {
+class JobMenuTest : public testing::Test, protected test::DrawnProgram {
   protected:
-    WorkMenuTest() {
+    JobMenuTest() {
         folder.write("data/lake.txt", "Station\tDate\tpH\r\nL1\t05/04/2021\t7.2\r\n");
         act([this] { program.start(); });
     }
 
-    QAction* work_of(const ScreenWindow& window) const {
+    QAction* job_of(const ScreenWindow& window) const {
         const QList<QAction*> all = window.menuBar()->actions();
         return all.isEmpty() ? nullptr : all.last();
     }
@@ -44,8 +44,8 @@ class WorkMenuTest : public testing::Test, protected test::DrawnProgram {
         });
         timer.start(20);
         QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
-                          bar->actionGeometry(work_of(window)).center());
-        QMenu* const menu = work_of(window)->menu();
+                          bar->actionGeometry(job_of(window)).center());
+        QMenu* const menu = job_of(window)->menu();
         ASSERT_TRUE(menu->isVisible());
         QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
                           menu->actionGeometry(menu->actions().first()).center());
@@ -101,35 +101,35 @@ class WorkMenuTest : public testing::Test, protected test::DrawnProgram {
     std::string told;
 };
 
-TEST_F(WorkMenuTest, StandsAtTheRightEndOfEveryWindowsMenus) {
+TEST_F(JobMenuTest, StandsAtTheRightEndOfEveryWindowsMenus) {
     for (Screen* const screen : screens().desk.screens()) {
         if (screen != &start_screen()) act([screen] { screen->show(); });
         ScreenWindow& window = *windows.window_of(*screen);
-        const QAction* const work_action = work_of(window);
-        ASSERT_NE(work_action, nullptr) << screen->name();
-        EXPECT_EQ(work_action->objectName(), "work") << screen->name();
+        const QAction* const job_action = job_of(window);
+        ASSERT_NE(job_action, nullptr) << screen->name();
+        EXPECT_EQ(job_action->objectName(), "job") << screen->name();
         EXPECT_TRUE(window.menuBar()->isVisibleTo(&window)) << screen->name();
-        const QRect place = window.menuBar()->actionGeometry(work_of(window));
+        const QRect place = window.menuBar()->actionGeometry(job_of(window));
         EXPECT_GE(place.right(), window.menuBar()->width() - 16) << screen->name();
     }
     EXPECT_EQ(windows.difference().toStdString(), "");
 }
 
-TEST_F(WorkMenuTest, IsReachedByTheKeyboard) {
+TEST_F(JobMenuTest, IsReachedByTheKeyboard) {
     ScreenWindow& window = *windows.foremost();
     window.activateWindow();
-    QTest::keyClick(&window, Qt::Key_W, Qt::AltModifier);
-    EXPECT_TRUE(work_of(window)->menu()->isVisible());
-    work_of(window)->menu()->close();
+    QTest::keyClick(&window, Qt::Key_J, Qt::AltModifier);
+    EXPECT_TRUE(job_of(window)->menu()->isVisible());
+    job_of(window)->menu()->close();
 }
 
-TEST_F(WorkMenuTest, IsNotRecordedItself) {
+TEST_F(JobMenuTest, IsNotRecordedItself) {
     const std::string before = lines();
     save_as(in_folder("month.scn"));
     EXPECT_EQ(lines(), before);
 }
 
-TEST_F(WorkMenuTest, SavesWhatWasDoneAtTheWindows) {
+TEST_F(JobMenuTest, SavesWhatWasDoneAtTheWindows) {
     log_on_at_the_windows();
     save_as(in_folder("month.scn"));
     const std::string saved = folder.read("month.scn");
@@ -147,7 +147,7 @@ TEST_F(WorkMenuTest, SavesWhatWasDoneAtTheWindows) {
     EXPECT_EQ(told, "");
 }
 
-TEST_F(WorkMenuTest, SuggestsTheNameOfTheFileWorkedOn) {
+TEST_F(JobMenuTest, SuggestsTheNameOfTheFileWorkedOn) {
     log_on_at_the_windows();
     act([this] {
         start_screen().mnuImport.choose();
@@ -159,7 +159,7 @@ TEST_F(WorkMenuTest, SuggestsTheNameOfTheFileWorkedOn) {
     EXPECT_NE(folder.read("month.scn"), "") << "the name ends in .scn of itself";
 }
 
-TEST_F(WorkMenuTest, AsksBeforeItWritesOverAFile) {
+TEST_F(JobMenuTest, AsksBeforeItWritesOverAFile) {
     folder.write("month.scn", "old");
     save_as(in_folder("month"), "Keep it");
     EXPECT_EQ(folder.read("month.scn"), "old");
@@ -168,12 +168,12 @@ TEST_F(WorkMenuTest, AsksBeforeItWritesOverAFile) {
     EXPECT_EQ(told, "replaceScenario|replaceScenario|");
 }
 
-TEST_F(WorkMenuTest, NothingIsWrittenWhenTheDialogIsLeft) {
+TEST_F(JobMenuTest, NothingIsWrittenWhenTheDialogIsLeft) {
     choose_save([](QDialog& dialog) { dialog.reject(); });
     EXPECT_TRUE(QDir(in_folder("")).entryList({"*.scn"}).isEmpty());
 }
 
-TEST_F(WorkMenuTest, TellsThatItCannotWrite) {
+TEST_F(JobMenuTest, TellsThatItCannotWrite) {
     save_as(in_folder("nowhere/month.scn"), "Close");
     EXPECT_EQ(told, "scenarioNotSaved|");
 }
@@ -199,7 +199,7 @@ class FullDisk {
     rlimit before_{};
 };
 
-TEST_F(WorkMenuTest, AFailingWriteLeavesTheOldFileAndNothingElse) {
+TEST_F(JobMenuTest, AFailingWriteLeavesTheOldFileAndNothingElse) {
     folder.write("saved/month.scn", "old");
     QString sentence;
     {
@@ -211,12 +211,12 @@ TEST_F(WorkMenuTest, AFailingWriteLeavesTheOldFileAndNothingElse) {
     EXPECT_EQ(QDir(in_folder("saved")).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
-TEST_F(WorkMenuTest, AWindowClosedByItsFrameIsItsExit) {
+TEST_F(JobMenuTest, AWindowClosedByItsFrameIsItsExit) {
     windows.foremost()->close();
     EXPECT_EQ(lines(), "force click frmStart.mnuExit\n");
 }
 
-TEST_F(WorkMenuTest, PagesOfATableAreMovesOfItsCurrentCell) {
+TEST_F(JobMenuTest, PagesOfATableAreMovesOfItsCurrentCell) {
     act([this] { view("Station\tDate\tpH\r\nL1\t05/04/2021\t7.2\r\nL2\t05/04/2021\t7.3\r\n"); });
     const std::string before = lines();
     auto* const grid = widget<GridWidget>(table());

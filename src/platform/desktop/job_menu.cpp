@@ -1,4 +1,4 @@
-#include "platform/desktop/work_menu.h"
+#include "platform/desktop/job_menu.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -56,11 +56,12 @@ QString asked_path(QWidget& window, const QString& suggested) {
 
 }  // namespace
 
-void WorkMenu::add_to(ScreenWindow& window) const {
+void JobMenu::add_to(ScreenWindow& window) const {
     QMenuBar& bar = *window.menuBar();
     bar.addSeparator();
-    QMenu* const menu = bar.addMenu(QStringLiteral("&Work"));
-    menu->menuAction()->setObjectName(QStringLiteral("work"));
+    // The one letter that no control of any window has.
+    QMenu* const menu = bar.addMenu(QStringLiteral("&Job"));
+    menu->menuAction()->setObjectName(QStringLiteral("job"));
     QAction* const save = menu->addAction(QStringLiteral("Save as &Scenario\u2026"));
     save->setObjectName(QStringLiteral("saveAsScenario"));
     save->setMenuRole(QAction::NoRole);
@@ -69,7 +70,7 @@ void WorkMenu::add_to(ScreenWindow& window) const {
     bar.setVisible(true);
 }
 
-void WorkMenu::save_as_scenario(QWidget& window) const {
+void JobMenu::save_as_scenario(QWidget& window) const {
     const scenario::Recording recording = recorder_.recording();
     const QString path = asked_path(window, QString::fromStdString(recording.suggested_name()));
     if (path.isEmpty() || (QFileInfo::exists(path) && !may_replace(window, path))) return;
