@@ -122,7 +122,7 @@ const std::map<std::string, Command, std::less<>>& commands() {
         {"start", command("start", start_step)},
         {"click", {"click FIELD", user_step}},
         {"type", {"type FIELD TEXT", user_step}},
-        {"select", {"select FIELD ENTRY", user_step}},
+        {"select", {"select FIELD ENTRY [WHICH]", user_step}},
         {"cell", {"cell FIELD ROW COLUMN", user_step}},
         {"keys", {"keys FIELD KEYS", user_step}},
         {"refused", command("refused COMMAND", refused_step)},

@@ -38,13 +38,16 @@ UserAct type_act(const Arguments& arguments) {
 }
 
 UserAct select_act(const Arguments& arguments) {
-    arguments.want(2);
+    const bool counts = arguments.count() == 3;
+    if (!counts) arguments.want(2);
     const std::string& entry = arguments.text(1);
+    const int which = counts ? arguments.number(2, "place among entries of that text") : 1;
+    if (which < 1) throw WrongLine("Entries of one text are counted from 1.");
     return {arguments.field(0, {list, pick_list, drive_list, folder_list, file_list}),
-            [entry](Field& field) { entry_index(static_cast<EntryList&>(field), entry); },
-            [entry](Front& front, Field& field) {
+            [=](Field& field) { entry_index(static_cast<EntryList&>(field), entry, which); },
+            [=](Front& front, Field& field) {
                 auto& entries = static_cast<EntryList&>(field);
-                front.click_entry(entries, entry_index(entries, entry));
+                front.click_entry(entries, entry_index(entries, entry, which));
             }};
 }
 
@@ -80,7 +83,7 @@ UserAct inner_act(const Arguments& arguments, const std::string& usage) {
     const auto& words = arguments.words();
     return act_of(words.front(),
                   Arguments({words.begin() + 1, words.end()}, arguments.folder(),
-                            usage + " click FIELD, type FIELD TEXT, select FIELD ENTRY, "
+                            usage + " click FIELD, type FIELD TEXT, select FIELD ENTRY [WHICH], "
                                     "cell FIELD ROW COLUMN, keys FIELD KEYS"));
 }
 

@@ -1,5 +1,6 @@
 #include "scenario/user_words.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -10,35 +11,58 @@
 namespace brooklander::scenario {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Key>, 10> named_keys{{
-    {"{Enter}", {Key::Name::enter}},
-    {"{Delete}", {Key::Name::erase}},
-    {"{Backspace}", {Key::Name::backspace}},
-    {"{Up}", {Key::Name::up}},
-    {"{Down}", {Key::Name::down}},
-    {"{Left}", {Key::Name::left}},
-    {"{Right}", {Key::Name::right}},
-    {"{Tab}", {Key::Name::tab}},
-    {"{Escape}", {Key::Name::escape}},
-    {"{Space}", Key::of(' ')},
+constexpr std::array<std::pair<std::string_view, Key>, 11> named_keys{{
+    {"Enter", {Key::Name::enter}},
+    {"Delete", {Key::Name::erase}},
+    {"Backspace", {Key::Name::backspace}},
+    {"Up", {Key::Name::up}},
+    {"Down", {Key::Name::down}},
+    {"Left", {Key::Name::left}},
+    {"Right", {Key::Name::right}},
+    {"Tab", {Key::Name::tab}},
+    {"Escape", {Key::Name::escape}},
+    {"Space", Key::of(' ')},
+    {"{", Key::of('{')},
 }};
 
-Key take_named_key(std::string_view& text) {
-    for (const auto& [name, key] : named_keys) {
-        if (!text.starts_with(name)) continue;
-        text.remove_prefix(name.size());
-        return key;
-    }
+constexpr std::size_t most_keys = 1'000'000;  // a line's; no table has as many rows
+
+// Takes `{Name}` or `{Name TIMES}` off the front.
+void take_named_key(std::string_view& text, std::vector<Key>& keys) {
     const std::size_t end = text.find('}');
-    const std::string_view name = end == std::string_view::npos ? text : text.substr(0, end + 1);
-    throw WrongLine("There is no key " + in_quotes(name) + ".");
+    const std::string_view word = text.substr(0, end == std::string_view::npos ? end : end + 1);
+    const std::string_view inside = word.substr(1, word.size() - (word.ends_with('}') ? 2 : 1));
+    const std::size_t blank = inside.find(' ');
+    const std::string_view name = inside.substr(0, blank);
+    const auto found = std::find_if(named_keys.begin(), named_keys.end(),
+                                    [name](const auto& named) { return named.first == name; });
+    if (!word.ends_with('}') || found == named_keys.end()) {
+        throw WrongLine("There is no key " + in_quotes(word) + ".");
+    }
+    int times = 1;
+    if (blank != std::string_view::npos) {
+        times = number_in(inside.substr(blank + 1), "number of times");
+    }
+    if (keys.size() + static_cast<std::size_t>(times) > most_keys) {
+        throw WrongLine("So many keys are pressed by nobody: " + in_quotes(word) + ".");
+    }
+    keys.insert(keys.end(), static_cast<std::size_t>(times), found->second);
+    text.remove_prefix(word.size());
 }
 
 }  // namespace
 
-std::size_t entry_index(const EntryList& list, std::string_view entry) {
-    const auto index = list.find(entry);
+std::size_t entry_index(const EntryList& list, std::string_view entry, int which) {
+    auto index = list.find(entry);
     if (!index) throw Unmet(list.path() + " has no entry " + in_quotes(entry) + ".");
+    for (int passed = 1; passed < which; ++passed) {
+        do {
+            ++*index;
+        } while (*index < list.count() && list.entry(*index) != entry);
+        if (*index < list.count()) continue;
+        throw Unmet(list.path() + " has the entry " + in_quotes(entry) + " no " +
+                    std::to_string(which) + " times.");
+    }
     return *index;
 }
 
@@ -53,7 +77,7 @@ std::vector<Key> keys_in(std::string_view text) {
     std::vector<Key> keys;
     while (!text.empty()) {
         if (text.front() == '{') {
-            keys.push_back(take_named_key(text));
+            take_named_key(text, keys);
             continue;
         }
         if (!can_be_typed(text.front())) {
@@ -63,6 +87,14 @@ std::vector<Key> keys_in(std::string_view text) {
         text.remove_prefix(1);
     }
     return keys;
+}
+
+std::string key_word(Key key, std::size_t times) {
+    const auto found = std::find_if(named_keys.begin(), named_keys.end(),
+                                    [key](const auto& named) { return named.second == key; });
+    // A blank is typed as it stands.
+    if (found == named_keys.end() || key == Key::of(' ')) return std::string(times, key.character);
+    return "{" + std::string(found->first) + (times > 1 ? " " + std::to_string(times) : "") + "}";
 }
 
 }  // namespace brooklander::scenario

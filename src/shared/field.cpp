@@ -76,6 +76,13 @@ bool Field::focused() const { return screen_->focus_ == this; }
 
 void Field::observe(std::function<void()> observer) { observers_.push_back(std::move(observer)); }
 
+Field::ByUser::ByUser(Field& field, const UserAct& act) : field_(field) {
+    Desk& desk = field.screen().desk();
+    if (desk.user_acts_++ == 0 && desk.on_user_act) desk.on_user_act(field, act);
+}
+
+Field::ByUser::~ByUser() { --field_.screen().desk().user_acts_; }
+
 void Field::changed() {
     for (const auto& observer : observers_) observer();
 }

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "shared/user_act.h"
+
 namespace brooklander {
 
 class Screen;
@@ -104,6 +106,20 @@ class Field {
 
     // Tells the observers.
     void changed();
+
+    // Tells whoever watches the user of an act, before it is done. To be made first in every member
+    // named after what a user does, and to live as long as the act: what such members do to fields
+    // in turn is a part of it and is not told.
+    class ByUser {
+      public:
+        ByUser(Field& field, const UserAct& act);
+        ByUser(const ByUser&) = delete;
+        ByUser& operator=(const ByUser&) = delete;
+        ~ByUser();
+
+      private:
+        Field& field_;
+    };
 
     // Stores the text; false when it was the same.
     bool store_text(std::string_view text);

@@ -6,7 +6,13 @@
 namespace brooklander {
 
 void Button::press() {
+    const ByUser by_user(*this, Clicked{});
     set_focus();
+    run(on_click);
+}
+
+void MenuEntry::choose() {
+    const ByUser by_user(*this, Clicked{});
     run(on_click);
 }
 
@@ -16,21 +22,25 @@ void TextBox::set_text(std::string_view text) {
 }
 
 void TextBox::click() {
+    const ByUser by_user(*this, Clicked{});
     set_focus();
     run(on_click);
 }
 
+void TextBox::edit(std::string_view text) {
+    set_focus();
+    const std::string whole(typing_.most > 0 ? text.substr(0, typing_.most) : text);
+    if (whole == this->text()) return;
+    const ByUser by_user(*this, Edited{whole});
+    set_text(whole);
+}
+
 void TextBox::type(std::string_view text) {
     set_focus();
-    if (text.empty()) {
-        clear_text();
-        return;
-    }
     const bool was_usable = usable();
-    set_text(text.substr(0, 1));
-    for (const char character : text.substr(1)) {
-        if (usable() != was_usable) break;
-        set_text(this->text() + character);
+    edit(text.substr(0, 1));
+    for (std::size_t at = 1; at < text.size() && usable() == was_usable; ++at) {
+        edit(this->text() + text[at]);
     }
 }
 
@@ -46,16 +56,16 @@ void TextBox::press_keys(const std::vector<Key>& keys) {
         switch (key.name) {
             case Key::Name::character:
                 if (typing_.most > 0 && text().size() >= typing_.most) break;
-                set_text(std::string(before).append(1, key.character).append(behind));
+                edit(std::string(before).append(1, key.character).append(behind));
                 ++caret;
                 break;
             case Key::Name::backspace:
                 if (before.empty()) break;
                 --caret;
-                set_text(before.substr(0, caret) + behind);
+                edit(before.substr(0, caret) + behind);
                 break;
             case Key::Name::erase:
-                if (!behind.empty()) set_text(before + behind.substr(1));
+                if (!behind.empty()) edit(before + behind.substr(1));
                 break;
             case Key::Name::left:
                 if (caret > 0) --caret;
@@ -80,6 +90,7 @@ void TickBox::set_ticked(bool ticked) {
 }
 
 void TickBox::turn_over() {
+    const ByUser by_user(*this, Clicked{});
     set_focus();
     set_ticked(!ticked_);
 }
@@ -103,6 +114,7 @@ void Option::set_on(bool on) {
 }
 
 void Option::choose() {
+    const ByUser by_user(*this, Clicked{});
     set_focus();
     if (on_) {
         run(on_click);
@@ -151,6 +163,7 @@ std::optional<std::size_t> EntryList::find(std::string_view text) const {
 }
 
 void EntryList::click_entry(std::size_t index) {
+    const ByUser by_user(*this, EntryClicked{index});
     set_focus();
     select(index);
     run(on_click);

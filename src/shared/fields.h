@@ -1,7 +1,8 @@
 // The plain kinds of fields, with the rules that each keeps.
 //
 // Members named after what a user does (press, choose, type) give the field the focus, but for
-// menus, and run its handlers. Whether a user may do it is asked with usable() before.
+// menus, and run its handlers; whoever watches the user is told first. Whether a user may do it is
+// asked with usable() before.
 #pragma once
 
 #include <functional>
@@ -58,7 +59,7 @@ class MenuEntry : public PlacedField {
 
     std::function<void()> on_click;
 
-    void choose() { run(on_click); }
+    void choose();
 };
 
 // How a text box treats what is typed.
@@ -83,6 +84,9 @@ class TextBox : public PlacedField {
     void set_text(std::string_view text) override;
 
     void click();
+
+    // What keys, or the clipboard, have made of the text. One that is too long is cut.
+    void edit(std::string_view text);
 
     // Marks all that stands there and types the text over it, one change for each character; an
     // empty text deletes what stands there. A first character that is all that stood there changes

@@ -143,6 +143,7 @@ void Grid::set_highlight(Highlight highlight) {
 }
 
 void Grid::click_cell(GridCell cell) {
+    const ByUser by_user(*this, CellClicked{cell});
     set_focus();
     if (cell.row < fixed_rows_) return;
     make_current(cell);
@@ -150,6 +151,7 @@ void Grid::click_cell(GridCell cell) {
 }
 
 void Grid::press_key(Key key) {
+    const ByUser by_user(*this, KeyPressed{key});
     set_focus();
     if (on_key && on_key(key)) return;
     switch (key.name) {
@@ -168,6 +170,12 @@ void Grid::press_key(Key key) {
         case Key::Name::tab:
         case Key::Name::escape: break;
     }
+}
+
+void Grid::move_to(GridCell cell) {
+    const ByUser by_user(*this, MovedTo{cell});
+    set_focus();
+    make_current(cell);
 }
 
 void Grid::move_current(int rows_down, int columns_right) {

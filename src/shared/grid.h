@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "shared/fields.h"
+#include "shared/grid_cell.h"
 #include "shared/text_grid.h"
 
 namespace brooklander {
@@ -20,18 +21,6 @@ enum class Selection { free, by_row, by_column };
 enum class Highlight { never, always, with_focus };
 
 enum class Alignment { standard, left };
-
-struct GridCell {
-    int row = 0;
-    int column = 0;
-
-    bool operator==(const GridCell&) const = default;
-
-    // Row by row.
-    bool operator<(const GridCell& other) const {
-        return row != other.row ? row < other.row : column < other.column;
-    }
-};
 
 // How a grid starts: without rows, unless told otherwise.
 struct GridShape {
@@ -121,6 +110,10 @@ class Grid : public PlacedField {
     // A user's key at the current cell. Unless on_key takes it, arrows move the current cell among
     // the rows and columns that are not fixed, and Enter or the space bar clicks it.
     void press_key(Key key);
+
+    // A user's way to another cell, where more than an arrow key leads there: by pages, or to an
+    // end of the grid. The cell is one of the grid's.
+    void move_to(GridCell cell);
 
   private:
     void move_current(int rows_down, int columns_right);

@@ -24,12 +24,18 @@ class Desk {
     // The visible screen that stands before all others; null when none is visible.
     Screen* foremost() const;
 
+    // Whoever watches the user is told of each act here, before it is done, and of nothing that a
+    // step of the program does.
+    std::function<void(Field&, const UserAct&)> on_user_act;
+
   private:
+    friend class Field;
     friend class Screen;
 
     Files& files_;
     std::vector<Screen*> screens_;
     std::vector<Screen*> stack_;  // the last one stands foremost
+    int user_acts_ = 0;           // those under way, one within the other
 };
 
 class Screen : public Field {

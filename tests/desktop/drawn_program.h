@@ -1,9 +1,10 @@
-// A program on a folder of its own, with its windows.
+// A program on a folder of its own, with its windows as a user has them.
 #pragma once
 
 #include <QApplication>
 #include <QTest>
 
+#include "platform/desktop/job_menu.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/warnings.h"
 #include "platform/desktop/windows.h"
@@ -15,6 +16,7 @@ struct DrawnProgram : TestProgram {
     DrawnProgram() {
         windows.on_failure = [this](const QString& sentence) { failure = sentence.toStdString(); };
         windows.on_end = [this] { has_ended = true; };
+        windows.on_new_window = [this](desktop::ScreenWindow& window) { job.add_to(window); };
     }
 
     // Does it as a step of the program, and lets the windows come to rest.
@@ -35,6 +37,8 @@ struct DrawnProgram : TestProgram {
 
     desktop::ScreenWindow& start_window() { return *windows.window_of(start_screen()); }
 
+    scenario::Recorder recorder{program.screens()};
+    desktop::JobMenu job{recorder};
     desktop::Windows windows{program.screens(), desktop::lay_out};
     std::string failure;
     bool has_ended = false;

@@ -227,10 +227,7 @@ class GridView : public WidgetView<Grid, GridWidget> {
             acts.act(*this, [this, key] { field_.press_key(key); });
         };
         widget->on_move = [this, &acts](GridCell cell) {
-            acts.act(*this, [this, cell] {
-                field_.set_focus();
-                field_.make_current(cell);
-            });
+            acts.act(*this, [this, cell] { field_.move_to(cell); });
         };
     }
 

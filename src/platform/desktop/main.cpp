@@ -9,10 +9,12 @@
 #include "platform/desktop/failure_box.h"
 #include "platform/desktop/first_start.h"
 #include "platform/desktop/help_window.h"
+#include "platform/desktop/job_menu.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
 #include "platform/files/host_files.h"
 #include "program.h"
+#include "scenario/recorder.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -27,7 +29,10 @@ int run(int argc, char** argv) {
     OdbcDatabase database;
     HelpWindow help(files);
     Program program({files, database, help});
+    scenario::Recorder recorder(program.screens());
+    const JobMenu job(recorder);
     Windows windows(program.screens(), lay_out);
+    windows.on_new_window = [&job](ScreenWindow& window) { job.add_to(window); };
 
     // Both can come before the event loop runs, so that they wait for it.
     const auto exit_with = [](int status) {

@@ -254,10 +254,7 @@ class TextBoxView : public WidgetView<TextBox, QLineEdit>, public QObject {
         widget->installEventFilter(this);
         // Every change that is not the field's own: by keys, by the clipboard, by a screen reader.
         QObject::connect(widget, &QLineEdit::textChanged, this, [this](const QString& text) {
-            acts_.act(*this, [this, &text] {
-                field_.set_focus();
-                field_.set_text(typed(text));
-            });
+            acts_.act(*this, [this, &text] { field_.edit(typed(text)); });
         });
         QObject::connect(widget, &QLineEdit::returnPressed, this, [this] {
             Button* const button = field_.enter_presses;

@@ -88,9 +88,10 @@ QToolTip { background: %card; color: %text; border: 1px solid %edge; padding: 4p
     return sheet;
 }
 
-// The toolkit's style draws the marks of boxes and options in a line somewhat darker than the
-// window, which nobody sees on a dark one.
-class MarksInSight : public QProxyStyle {
+// The toolkit's style, but for two things. It draws the marks of boxes and options in a line
+// somewhat darker than the window, which nobody sees on a dark one; and it leaves separators in
+// menu bars out.
+class OwnStyle : public QProxyStyle {
   public:
     using QProxyStyle::QProxyStyle;
 
@@ -108,6 +109,13 @@ class MarksInSight : public QProxyStyle {
         seen.palette.setColor(QPalette::Window,
                               mixed(colours.card, colours.text, 0.5).lighter(darker_by));
         QProxyStyle::drawPrimitive(element, &seen, painter, widget);
+    }
+
+    // What stands behind a separator in a menu bar stands apart, at its right end.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_DrawMenuBarSeparator) return 1;
+        return QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
 
@@ -159,7 +167,7 @@ QFont font_larger_by(qreal points, QFont::Weight weight) {
 }
 
 void dress(QApplication& application) {
-    QApplication::setStyle(new MarksInSight(QStringLiteral("Fusion")));  // the application owns it
+    QApplication::setStyle(new OwnStyle(QStringLiteral("Fusion")));  // the application owns it
     QApplication::setWindowIcon(program_icon());
     new PaletteFollower(application);  // the application owns it
 }

@@ -132,6 +132,7 @@ void Windows::open_window(Screen& screen) {
     window = std::make_unique<ScreenWindow>(screen);
     window->on_close = [this, &screen] { close_by_frame(screen); };
     for (auto& menu : fill_menu_bar(*window->menuBar(), screen, *this)) add(std::move(menu));
+    if (on_new_window) on_new_window(*window);
     lay_out_(screens_, screen, *window, *this);
 }
 

@@ -34,6 +34,10 @@ class Windows : public Acts {
     std::function<void()> on_end;
     std::function<void(const QString& sentence)> on_failure;
 
+    // Called with each window when its own menus are there, before it is shown: for a menu that is
+    // no screen's.
+    std::function<void(ScreenWindow& window)> on_new_window;
+
     void act(FieldView& origin, const std::function<void()>& step) override;
 
     // Runs a step that no widget stands for. While a step runs, nothing else does.
