@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QTimer>
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 
 #include "desktop/drawn_program.h"
 #include "platform/desktop/grid_widget.h"
@@ -223,6 +225,18 @@ TEST_F(JobMenuTest, PagesOfATableAreMovesOfItsCurrentCell) {
     QTest::keyClick(grid, Qt::Key_End, Qt::ControlModifier);
     QTest::keyClick(grid, Qt::Key_Home);
     EXPECT_EQ(lines(), before + "keys frmImportFileDisplay.MSFlexKeldarIN \"{Down 2}\"\n");
+}
+
+// The help cannot take these words from a field, as it does all others.
+TEST_F(JobMenuTest, HasTheWordsThatTheHelpTells) {
+    std::ifstream file(std::filesystem::path(BROOKLANDER_ROOT) / "samples/help/82_again.guide");
+    const std::string guide{std::istreambuf_iterator<char>(file), {}};
+    QMenu* const menu = job_of(*windows.foremost())->menu();
+    const auto words = [](const QAction* action) {
+        return '"' + action->text().remove('&').toStdString() + '"';
+    };
+    EXPECT_NE(guide.find("menu " + words(menu->menuAction())), std::string::npos);
+    EXPECT_NE(guide.find("Choose " + words(menu->actions().first())), std::string::npos);
 }
 
 }  // namespace
