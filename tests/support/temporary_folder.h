@@ -1,10 +1,10 @@
 // A folder of the host for one test.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -13,9 +13,11 @@ namespace brooklander::test {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "brooklander-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) std::abort();
-        path_ = name;
+        std::random_device numbers;
+        do {
+            path_ = std::filesystem::temp_directory_path() /
+                    ("brooklander-" + std::to_string(numbers()));
+        } while (!std::filesystem::create_directory(path_));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
@@ -26,14 +28,19 @@ class TemporaryFolder {
 
     const std::filesystem::path& path() const { return path_; }
 
-    // Writes a file, making its folders.
-    void write(const std::filesystem::path& name, std::string_view text) const {
-        std::filesystem::create_directories((path_ / name).parent_path());
-        std::ofstream(path_ / name, std::ios::binary) << text;
+    // Where a name lies, which is UTF-8.
+    std::filesystem::path at(std::string_view name) const {
+        return path_ / std::filesystem::path(std::u8string(name.begin(), name.end()));
     }
 
-    std::string read(const std::filesystem::path& name) const {
-        std::ifstream file(path_ / name, std::ios::binary);
+    // Writes a file, making its folders.
+    void write(std::string_view name, std::string_view text) const {
+        std::filesystem::create_directories(at(name).parent_path());
+        std::ofstream(at(name), std::ios::binary) << text;
+    }
+
+    std::string read(std::string_view name) const {
+        std::ifstream file(at(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
