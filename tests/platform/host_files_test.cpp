@@ -23,21 +23,21 @@ TEST_F(HostFileRules, OpeningForOutputOverwritesAFileOfAnotherCase) {
 }
 
 TEST_F(HostFileRules, LettersOfTheCodePageInNamesAreUtf8OnTheHost) {
-    folder_.write("Montréal/été.txt", "x");
+    folder_.write(u8"Montréal/été.txt", "x");
     EXPECT_EQ(read("c:\\montr\xC9"
                    "al\\\xC9T\xC9.TXT"),
               "x");
     write("c:\\\xFC.txt", "y");
-    EXPECT_EQ(folder_.read("ü.txt"), "y");
+    EXPECT_EQ(folder_.read(u8"ü.txt"), "y");
     EXPECT_EQ(files_.folders_in("c:\\"), (Names{"Montr\xE9"
                                                 "al"}));
 }
 
 TEST_F(HostFileRules, NamesOutsideTheCodePageAreNotListed) {
-    folder_.write("Łódź.txt", "");
+    folder_.write(u8"Łódź.txt", "");
     folder_.write("a.txt", "");
     folder_.write(".txt", "");
-    fs::create_directories(folder_.at("Łódź"));
+    fs::create_directories(folder_.path() / u8"Łódź");
     EXPECT_EQ(files_.files_in("c:\\", "*.txt*"), (Names{".txt", "a.txt"}));
     EXPECT_EQ(files_.folders_in("c:\\"), Names{});
 }

@@ -28,19 +28,14 @@ class TemporaryFolder {
 
     const std::filesystem::path& path() const { return path_; }
 
-    // Where a name lies, which is UTF-8.
-    std::filesystem::path at(std::string_view name) const {
-        return path_ / std::filesystem::path(std::u8string(name.begin(), name.end()));
-    }
-
     // Writes a file, making its folders.
-    void write(std::string_view name, std::string_view text) const {
-        std::filesystem::create_directories(at(name).parent_path());
-        std::ofstream(at(name), std::ios::binary) << text;
+    void write(const std::filesystem::path& name, std::string_view text) const {
+        std::filesystem::create_directories((path_ / name).parent_path());
+        std::ofstream(path_ / name, std::ios::binary) << text;
     }
 
-    std::string read(std::string_view name) const {
-        std::ifstream file(at(name), std::ios::binary);
+    std::string read(const std::filesystem::path& name) const {
+        std::ifstream file(path_ / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
