@@ -99,9 +99,8 @@ class Files {
     // The drives, as `c:`, in the order of their letters.
     virtual std::vector<std::string> drives() const = 0;
 
-    // The names of the folders in a folder, by name without regard to case. Names that start with a
-    // dot, which the host hides, and names outside the code page are left out, as are those that no
-    // file may have here.
+    // The names of the folders in a folder, by name without regard to case. Folders that the host
+    // hides and names outside the code page are left out, as are names that no file may have here.
     virtual std::vector<std::string> folders_in(std::string_view path) const = 0;
 
     // The names of the files in a folder that match a pattern of `*` (any text) and `?` (any one

@@ -7,6 +7,8 @@
 #include <system_error>
 
 #include "platform/code_page.h"
+#include "platform/fatal_failure.h"
+#include "platform/files/host_system.h"
 #include "scenario/arguments.h"
 #include "scenario/scenario_error.h"
 #include "scenario/stage.h"
@@ -21,7 +23,7 @@ using Act = std::function<void(Stage&)>;
 Step always(Act act) { return {{}, Works::always, false, std::move(act)}; }
 
 void check(const std::error_code& fault, const std::string& what) {
-    if (fault) throw Unmet(what + ": " + fault.message() + ".");
+    if (fault) throw Unmet(what + ": " + cause_in_words(fault) + ".");
 }
 
 std::string shown(const std::string& path) { return "\"" + to_utf8(path) + "\""; }
@@ -34,37 +36,45 @@ fs::path with_folders(const Stage& stage, const std::string& path) {
     return target;
 }
 
+void write_file(const fs::path& target, std::string_view bytes, const std::string& path) {
+    std::ofstream file(target, std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (file.flush()) return;
+    const std::error_code fault(errno, std::generic_category());
+    std::error_code ignored;
+    check(
+        fs::is_directory(target, ignored) ? std::make_error_code(std::errc::is_a_directory) : fault,
+        shown(path) + " cannot be written");
+}
+
 Step copy_step(const Arguments& arguments) {
     arguments.want(2);
     return always([from = host_file(arguments.text(0), arguments.folder()),
                    to = arguments.text(1)](Stage& stage) {
-        std::error_code fault;
-        fs::copy_file(from, with_folders(stage, to), fs::copy_options::overwrite_existing, fault);
-        check(fault, "\"" + from.string() + "\" cannot be copied to " + shown(to));
+        try {
+            const FileText text = read_host_file(from, host_system::utf8_of(from));
+            write_file(with_folders(stage, to), text.view(), to);
+        } catch (const FatalFailure& failure) {
+            throw Unmet(failure.what());
+        }
     });
 }
 
 Step write_step(const Arguments& arguments) {
     arguments.want(2);
     return always([path = arguments.text(0), text = arguments.text(1)](Stage& stage) {
-        std::ofstream file(with_folders(stage, path), std::ios::binary);
-        file << text;
-        if (!file.flush())
-            check({errno, std::generic_category()}, shown(path) + " cannot be written");
+        write_file(with_folders(stage, path), text, path);
     });
 }
 
 Step remove_step(const Arguments& arguments) {
     arguments.want(1);
     return always([path = arguments.text(0)](Stage& stage) {
-        std::error_code fault;
-        const fs::path target = fs::weakly_canonical(stage.host_path(path), fault);
-        const fs::path drive = fs::weakly_canonical(stage.host_path("c:\\"), fault);
-        const auto [in_target, in_drive] =
-            std::mismatch(target.begin(), target.end(), drive.begin(), drive.end());
-        if (in_target == target.end()) throw Unmet("A whole drive is not removed.");
-        fs::remove_all(target, fault);
-        check(fault, shown(path) + " cannot be removed");
+        const fs::path target = stage.host_path(path);
+        if (holds_a_drive(target, stage.host_path("c:\\"))) {
+            throw Unmet("A whole drive is not removed.");
+        }
+        check(host_system::remove_tree(target), shown(path) + " cannot be removed");
     });
 }
 
@@ -154,8 +164,17 @@ Step step_of(const std::vector<std::string>& words, const fs::path& folder) {
 }
 
 fs::path host_file(const std::string& word, const fs::path& folder) {
-    const std::string utf8 = to_utf8(word);
-    return folder / fs::path(std::u8string(utf8.begin(), utf8.end()));
+    return folder / host_system::path_of(to_utf8(word));
+}
+
+bool holds_a_drive(const fs::path& path, const fs::path& drive_c) {
+    std::error_code ignored;
+    const fs::path target = fs::weakly_canonical(path, ignored);
+    if (target.empty() || target == target.root_path()) return true;
+    for (fs::path above = fs::weakly_canonical(drive_c, ignored);; above = above.parent_path()) {
+        if (target == above || fs::equivalent(target, above, ignored)) return true;
+        if (above == above.parent_path()) return false;
+    }
 }
 
 }  // namespace brooklander::scenario

@@ -17,4 +17,8 @@ Step step_of(const std::vector<std::string>& words, const std::filesystem::path&
 // A HOST word as a path of the machine.
 std::filesystem::path host_file(const std::string& word, const std::filesystem::path& folder);
 
+// Whether a path of the host is the root of a file system, or `drive_c`, the folder that stands for
+// that drive, or a folder around it. None of these is ever removed.
+bool holds_a_drive(const std::filesystem::path& path, const std::filesystem::path& drive_c);
+
 }  // namespace brooklander::scenario

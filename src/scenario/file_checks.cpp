@@ -1,5 +1,6 @@
 #include "platform/code_page.h"
 #include "platform/fatal_failure.h"
+#include "platform/files/host_system.h"
 #include "scenario/arguments.h"
 #include "scenario/commands.h"
 #include "scenario/scenario_error.h"
@@ -101,7 +102,7 @@ Check same_check(const Arguments& arguments) {
     return [other = host_file(arguments.text(2), arguments.folder())](const fs::path& file,
                                                                       const std::string& shown) {
         const FileText found = text_of(file, shown);
-        const FileText expected = text_of(other, other.string());
+        const FileText expected = text_of(other, host_system::utf8_of(other));
         want(found.view() == expected.view(), shown, difference(found.view(), expected.view()));
     };
 }

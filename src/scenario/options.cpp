@@ -1,15 +1,14 @@
 #include "scenario/options.h"
 
 #include <getopt.h>
-#include <termios.h>
-#include <unistd.h>
 
 #include <array>
-#include <iostream>
 
 #include "platform/code_page.h"
 #include "platform/files/host_files.h"
+#include "platform/files/host_system.h"
 #include "scenario/scenario_error.h"
+#include "scenario/terminal.h"
 
 namespace brooklander::scenario {
 namespace {
@@ -41,42 +40,24 @@ void add_variable(Variables& variables, const std::string& assignment) {
                                in_code_page(assignment.substr(equals + 1)));
 }
 
-// Switches the terminal's echo off as long as it lives.
-class WithoutEcho {
-  public:
-    WithoutEcho() {
-        active_ = isatty(STDIN_FILENO) == 1 && tcgetattr(STDIN_FILENO, &before_) == 0;
-        if (!active_) return;
-        termios silent = before_;
-        silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
-    }
-    WithoutEcho(const WithoutEcho&) = delete;
-    WithoutEcho& operator=(const WithoutEcho&) = delete;
-    ~WithoutEcho() {
-        if (active_) tcsetattr(STDIN_FILENO, TCSAFLUSH, &before_);
-    }
-
-    bool active() const { return active_; }
-
-  private:
-    bool active_ = false;
-    termios before_{};
-};
-
 }  // namespace
 
-Options options_of(int argc, char** argv) {
+Options options_of(std::vector<std::string> words) {
+    std::vector<char*> pointers;
+    for (std::string& word : words) pointers.push_back(word.data());
+    const auto count = static_cast<int>(pointers.size());
+    pointers.push_back(nullptr);
+    char** const argv = pointers.data();
     Options options;
     options.home = home_folder();
     optind = 1;
     opterr = 0;
     for (int found = 0;
-         (found = getopt_long(argc, argv, ":", long_options.data(), nullptr)) != -1;) {
+         (found = getopt_long(count, argv, ":", long_options.data(), nullptr)) != -1;) {
         switch (found) {
             case drawn: options.drawn = true; break;
-            case shots: options.shots = optarg; break;
-            case home: options.home = optarg; break;
+            case shots: options.shots = host_system::path_of(optarg); break;
+            case home: options.home = host_system::path_of(optarg); break;
             case with: add_variable(options.variables, optarg); break;
             case secret: options.secrets.emplace_back(optarg); break;
             case help: options.help = true; break;
@@ -84,7 +65,7 @@ Options options_of(int argc, char** argv) {
             default: throw WrongLine(std::string(argv[optind - 1]) + " is no option.");
         }
     }
-    for (int i = optind; i < argc; ++i) options.files.emplace_back(argv[i]);
+    for (int i = optind; i < count; ++i) options.files.push_back(host_system::path_of(argv[i]));
     if (options.files.empty() && !options.help) throw WrongLine("No scenario file is given.");
     return options;
 }
@@ -95,14 +76,10 @@ std::string usage() {
 }
 
 std::string ask_for_secret(const std::string& name) {
-    const WithoutEcho without_echo;
-    if (without_echo.active()) std::cerr << name << ": " << std::flush;
-    std::string line;
-    const bool read = static_cast<bool>(std::getline(std::cin, line));
-    if (without_echo.active()) std::cerr << '\n';
-    if (!read) throw WrongLine("No value for --secret " + name + " could be read.");
-    if (line.ends_with('\r')) line.pop_back();
-    auto value = from_utf8(line);
+    std::optional<std::string> line = read_unseen(name + ": ");
+    if (!line) throw WrongLine("No value for --secret " + name + " could be read.");
+    if (line->ends_with('\r')) line->pop_back();
+    auto value = from_utf8(*line);
     if (!value) {
         throw WrongLine("The value for --secret " + name +
                         " holds a character that the code page lacks.");

@@ -19,8 +19,9 @@ struct Options {
     std::vector<std::filesystem::path> files;
 };
 
-// Reads the command line. Throws WrongLine with one sentence when it is not one.
-Options options_of(int argc, char** argv);
+// Reads the words of the command line, in UTF-8, the program's own name first. Throws WrongLine
+// with one sentence when it is not one.
+Options options_of(std::vector<std::string> words);
 
 // How the command line is written.
 std::string usage();

@@ -9,6 +9,7 @@
 #include "scenario/scenario_error.h"
 #include "scenario/script.h"
 #include "scenario/stage.h"
+#include "scenario/terminal.h"
 #include "scenario/undrawn_front.h"
 
 namespace brooklander::scenario {
@@ -96,9 +97,10 @@ std::unique_ptr<Front> undrawn_front(const Files& /*files*/) {
 }
 
 int run_player(int argc, char** argv, const DrawnFrontMaker& drawn_front_maker) {
+    const Terminal terminal;
     Output output;
     try {
-        Options options = options_of(argc, argv);
+        Options options = options_of(command_line(argc, argv));
         if (options.help) {
             std::cout << usage() << '\n';
             return all_passed;

@@ -4,6 +4,7 @@
 
 #include "platform/fatal_failure.h"
 #include "platform/files/host_files.h"
+#include "platform/files/host_system.h"
 #include "scenario/commands.h"
 #include "scenario/scenario_error.h"
 
@@ -20,7 +21,7 @@ class ScriptReader {
         : variables_(variables), secrets_(secrets) {}
 
     void read_file(const fs::path& file) {
-        const std::string shown = file.string();
+        const std::string shown = host_system::utf8_of(file);
         FileText text;
         try {
             text = read_host_file(file, shown);
@@ -37,7 +38,7 @@ class ScriptReader {
             std::string_view line = text.substr(0, text.find('\n'));
             text.remove_prefix(std::min(line.size() + 1, text.size()));
             if (line.ends_with('\r')) line.remove_suffix(1);
-            read_line(line, file, file.string() + ":" + std::to_string(number));
+            read_line(line, file, host_system::utf8_of(file) + ":" + std::to_string(number));
         }
         open_files_.pop_back();
     }

@@ -128,7 +128,7 @@ TEST(Script, AnIncludedFileIsReadFromTheFolderOfItsIncluder) {
     folder.write("main.scn", "include road/a.scn\nfatal\n");
     const auto steps = read_script(folder.path() / "main.scn", {});
     ASSERT_EQ(steps.size(), 3U);
-    EXPECT_EQ(steps[1].place, (folder.path() / "road/deeper/b.scn").string() + ":1");
+    EXPECT_EQ(steps[1].place, (folder.path() / "road" / "deeper/b.scn").string() + ":1");
 }
 
 TEST(Script, AWrongLineOfAnIncludedFileIsToldWithItsOwnPlace) {

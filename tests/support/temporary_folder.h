@@ -1,10 +1,10 @@
 // A folder of the host for one test.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -13,9 +13,11 @@ namespace brooklander::test {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "brooklander-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) std::abort();
-        path_ = name;
+        std::random_device numbers;
+        do {
+            path_ = std::filesystem::temp_directory_path() /
+                    ("brooklander-" + std::to_string(numbers()));
+        } while (!std::filesystem::create_directory(path_));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;

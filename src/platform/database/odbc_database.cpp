@@ -25,8 +25,7 @@ QueryResult OdbcDatabase::run(const Query& query) {
                            "\" is not sent: the database is open for queries alone.");
     }
     OdbcSession session(logon_of(query));
-    const Server server = session.server();
-    QueryResult result = session.ask(text_for(server, bridged_statement(server, query.statement)));
+    QueryResult result = session.ask(bridged_statement(session.server(), query.statement));
     take_into_code_page(result.columns);
     for (auto& row : result.rows) take_into_code_page(row);
     return result;

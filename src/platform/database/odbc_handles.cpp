@@ -1,9 +1,12 @@
 #include "platform/database/odbc_handles.h"
 
+#include <algorithm>
 #include <array>
+#include <span>
 #include <string_view>
 
 #include "platform/code_page.h"
+#include "platform/database/odbc_text.h"
 #include "platform/fatal_failure.h"
 
 namespace brooklander {
@@ -15,11 +18,11 @@ constexpr std::size_t longest_message = 4096;
 
 template <std::size_t size>
 struct Buffer {
-    SQLCHAR* data() { return bytes.data(); }
+    SQLTCHAR* data() { return characters.data(); }
     static SQLSMALLINT length() { return static_cast<SQLSMALLINT>(size); }
-    const char* text() const { return reinterpret_cast<const char*>(bytes.data()); }
+    std::string text() const { return text_of_driver(characters); }
 
-    std::array<SQLCHAR, size> bytes{};
+    std::array<SQLTCHAR, size> characters{};
 };
 
 // A message without the `[vendor][part]` in front, and on one line.
@@ -104,14 +107,14 @@ std::string OdbcEnvironment::library_of(const std::string& driver) const {
                                   attributes.data(), attributes.length(), &attributes_length));
          direction = SQL_FETCH_NEXT) {
         if (!same_but_for_case(name.text(), driver)) continue;
-        // `key=value` texts, each ended by a zero byte, and one more zero behind the last.
+        // `key=value` texts, each ended by a zero, and one more zero behind the last.
         constexpr std::string_view key = "Driver=";
-        for (const char* at = attributes.text(); *at != '\0';) {
-            const std::string_view attribute = at;
-            if (attribute.substr(0, key.size()) == key) {
-                return std::string(attribute.substr(key.size()));
-            }
-            at += attribute.size() + 1;
+        std::span<const SQLTCHAR> rest = attributes.characters;
+        while (!rest.empty() && rest.front() != 0) {
+            const std::string attribute = text_of_driver(rest);
+            if (attribute.starts_with(key)) return attribute.substr(key.size());
+            const auto end = std::find(rest.begin(), rest.end() - 1, SQLTCHAR{0});
+            rest = rest.subspan(static_cast<std::size_t>(end - rest.begin()) + 1);
         }
     }
     return "";

@@ -1,9 +1,10 @@
 #include "platform/database/odbc_session.h"
 
+#include <algorithm>
 #include <array>
-#include <cstring>
 
 #include "platform/code_page.h"
+#include "platform/database/odbc_text.h"
 #include "platform/fatal_failure.h"
 
 namespace brooklander {
@@ -11,14 +12,8 @@ namespace {
 
 constexpr SQLULEN login_seconds = 10;
 
-// Texts come in pieces of this size, less the zero byte that ends each.
-constexpr std::size_t piece_bytes = 8192;
-using Piece = std::array<char, piece_bytes>;
-
-// The API asks for writable texts, and writes none of these.
-SQLCHAR* text_of(const std::string& text) {
-    return reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.c_str()));
-}
+// Texts come in pieces of so many characters, less the zero that ends each.
+constexpr std::size_t piece_length = 8192;
 
 // A statement with the rows that answer it.
 class Statement : public OdbcHandle {
@@ -28,8 +23,8 @@ class Statement : public OdbcHandle {
         SQLSetStmtAttr(get(), SQL_ATTR_NOSCAN, attribute(SQL_NOSCAN_ON), SQL_IS_UINTEGER);
     }
 
-    bool execute(const std::string& statement) {
-        const SQLRETURN code = SQLExecDirect(get(), text_of(statement), SQL_NTS);
+    bool execute(OdbcText statement) {
+        const SQLRETURN code = SQLExecDirect(get(), statement.data(), SQL_NTS);
         return SQL_SUCCEEDED(code) || code == SQL_NO_DATA;
     }
 
@@ -38,49 +33,51 @@ class Statement : public OdbcHandle {
     bool read_rows(std::size_t columns, std::vector<std::vector<std::string>>& rows);
 
   private:
-    bool read_value(SQLUSMALLINT column, Piece& piece, std::string& value);
+    bool read_value(SQLUSMALLINT column, OdbcText& whole);
 };
 
 bool Statement::read_columns(std::vector<std::string>& names) {
     SQLSMALLINT columns = 0;
     if (!SQL_SUCCEEDED(SQLNumResultCols(get(), &columns))) return false;
     for (SQLSMALLINT column = 1; column <= columns; ++column) {
-        std::array<SQLCHAR, 1024> name{};
+        std::array<SQLTCHAR, 1024> name{};
         SQLSMALLINT length = 0;
         const SQLRETURN code = SQLDescribeCol(get(), static_cast<SQLUSMALLINT>(column), name.data(),
                                               static_cast<SQLSMALLINT>(name.size()), &length,
                                               nullptr, nullptr, nullptr, nullptr);
         if (!SQL_SUCCEEDED(code)) return false;
-        names.emplace_back(reinterpret_cast<const char*>(name.data()));
+        names.push_back(text_of_driver(name));
     }
     return true;
 }
 
 bool Statement::read_rows(std::size_t columns, std::vector<std::vector<std::string>>& rows) {
-    Piece piece{};
+    OdbcText whole;
     for (;;) {
         const SQLRETURN code = SQLFetch(get());
         if (code == SQL_NO_DATA) return true;
         if (!SQL_SUCCEEDED(code)) return false;
         auto& row = rows.emplace_back(columns);
         for (std::size_t column = 0; column < columns; ++column) {
-            if (!read_value(static_cast<SQLUSMALLINT>(column + 1), piece, row[column])) {
-                return false;
-            }
+            if (!read_value(static_cast<SQLUSMALLINT>(column + 1), whole)) return false;
+            row[column] = text_of_driver(whole);
         }
     }
 }
 
-// An absent value leaves the text empty. Each piece is read up to its zero byte rather than by the
-// reported length, since drivers report the length of the whole, of the rest, or none at all.
-bool Statement::read_value(SQLUSMALLINT column, Piece& piece, std::string& value) {
+// An absent value leaves the text empty. Each piece is read up to its zero rather than by the
+// reported length, since drivers report the length of the whole, of the rest, or none at all. The
+// pieces are put together before anything is made of them: one can end inside a character.
+bool Statement::read_value(SQLUSMALLINT column, OdbcText& whole) {
+    whole.clear();
+    std::array<SQLTCHAR, piece_length> piece;
     for (;;) {
         SQLLEN length = 0;
         const SQLRETURN code =
-            SQLGetData(get(), column, SQL_C_CHAR, piece.data(), piece_bytes, &length);
+            SQLGetData(get(), column, SQL_C_TCHAR, piece.data(), sizeof piece, &length);
         if (code == SQL_NO_DATA || (SQL_SUCCEEDED(code) && length == SQL_NULL_DATA)) return true;
         if (!SQL_SUCCEEDED(code)) return false;
-        value.append(piece.data(), strnlen(piece.data(), piece_bytes));
+        whole.insert(whole.end(), piece.begin(), std::find(piece.begin(), piece.end(), 0));
         if (code == SQL_SUCCESS) return true;
     }
 }
@@ -112,35 +109,37 @@ void OdbcSession::open(const Logon& logon) {
     const Server expected = server_by_driver(environment_.driver_of(logon.source));
     SQLRETURN code = SQL_ERROR;
     if (expected == Server::other) {
-        code = SQLDriverConnect(connection_.get(), nullptr, text_of(logon.connect_string), SQL_NTS,
-                                nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+        OdbcText text = text_to_driver(expected, logon.connect_string);
+        code = SQLDriverConnect(connection_.get(), nullptr, text.data(), SQL_NTS, nullptr, 0,
+                                nullptr, SQL_DRIVER_NOPROMPT);
     } else {
-        const std::string user = text_for(expected, logon.user);
-        const std::string password = text_for(expected, logon.password);
-        code = SQLConnect(connection_.get(), text_of(logon.source), SQL_NTS, text_of(user), SQL_NTS,
-                          text_of(password), SQL_NTS);
+        OdbcText source = text_to_driver(Server::other, logon.source);
+        OdbcText user = text_to_driver(expected, logon.user);
+        OdbcText password = text_to_driver(expected, logon.password);
+        code = SQLConnect(connection_.get(), source.data(), SQL_NTS, user.data(), SQL_NTS,
+                          password.data(), SQL_NTS);
     }
     if (!SQL_SUCCEEDED(code)) {
         fail("The data source \"" + source_ + "\" cannot be opened", connection_.complaint());
     }
-    std::array<char, 128> name{};
+    std::array<SQLTCHAR, 128> name{};
     SQLSMALLINT length = 0;
-    SQLGetInfo(connection_.get(), SQL_DBMS_NAME, name.data(), static_cast<SQLSMALLINT>(name.size()),
+    SQLGetInfo(connection_.get(), SQL_DBMS_NAME, name.data(), static_cast<SQLSMALLINT>(sizeof name),
                &length);
-    server_ = server_by_name(name.data());
+    server_ = server_by_name(text_of_driver(name));
 }
 
 QueryResult OdbcSession::ask(const std::string& statement) {
-    const auto sentence = [&] {
-        const std::string utf8 = server_ == Server::other ? to_utf8(statement) : statement;
-        return "The data source \"" + source_ + "\" does not answer the statement \"" + utf8 + "\"";
-    };
     Statement cursor(connection_.get());
     QueryResult result;
     const bool answered =
-        cursor.execute(statement) && cursor.read_columns(result.columns) &&
+        cursor.execute(text_to_driver(server_, statement)) && cursor.read_columns(result.columns) &&
         (result.columns.empty() || cursor.read_rows(result.columns.size(), result.rows));
-    if (!answered) fail(sentence(), cursor.complaint());
+    if (!answered) {
+        fail("The data source \"" + source_ + "\" does not answer the statement \"" +
+                 to_utf8(statement) + "\"",
+             cursor.complaint());
+    }
     return result;
 }
 

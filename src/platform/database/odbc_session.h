@@ -19,8 +19,8 @@ class OdbcSession {
 
     Server server() const { return server_; }
 
-    // Runs a statement, both it and the answer in the bytes of the driver. A FatalFailure when the
-    // statement, or the fetching of its rows, fails.
+    // Runs a statement, which is text of the code page; the answer is as the driver gives it, and
+    // in UTF-8 on Windows. A FatalFailure when the statement, or the fetching of its rows, fails.
     QueryResult ask(const std::string& statement);
 
   private:

@@ -1,6 +1,7 @@
 #include "platform/desktop/application.h"
 
 #include <QFont>
+#include <QOperatingSystemVersion>
 
 #include "platform/desktop/grid_accessible.h"
 #include "platform/desktop/theme.h"
@@ -24,7 +25,8 @@ std::unique_ptr<QApplication> make_application(int& argc, char** argv) {
 }
 
 bool has_display() {
-    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+    return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows ||
+           !qEnvironmentVariableIsEmpty("DISPLAY") ||
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 

@@ -11,6 +11,7 @@
 #include "platform/desktop/warnings.h"
 #include "platform/desktop/windows.h"
 #include "platform/fatal_failure.h"
+#include "platform/files/host_system.h"
 #include "scenario/scenario_error.h"
 
 namespace brooklander::desktop {
@@ -83,9 +84,10 @@ class DrawnFront : public scenario::Front {
         if (window == nullptr) throw Unmet("No window is there to take a picture of.");
         std::error_code fault;
         std::filesystem::create_directories(shots_, fault);
-        const auto file = (shots_ / shown(name).toStdString()).concat(".png");
-        if (!window->grab().save(QString::fromStdString(file.string()))) {
-            throw Unmet("The picture \"" + file.string() + "\" cannot be written.");
+        const auto file = shots_ / host_system::path_of((shown(name) + ".png").toStdString());
+        const std::string told = host_system::utf8_of(file);
+        if (!window->grab().save(QString::fromStdString(told))) {
+            throw Unmet("The picture \"" + told + "\" cannot be written.");
         }
     }
 

@@ -1,13 +1,8 @@
 #include "platform/files/host_files.h"
 
-#ifdef __linux__
-#include <sys/mman.h>
-#endif
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <new>
@@ -15,6 +10,7 @@
 
 #include "platform/code_page.h"
 #include "platform/fatal_failure.h"
+#include "platform/files/host_system.h"
 #include "platform/files/name_pattern.h"
 
 namespace brooklander {
@@ -24,7 +20,7 @@ namespace fs = std::filesystem;
 
 [[noreturn]] void fail(const std::string& shown, const std::string& what,
                        const std::error_code& cause) {
-    throw FatalFailure("\"" + shown + "\" cannot be " + what + ": " + cause.message() + ".");
+    throw FatalFailure("\"" + shown + "\" cannot be " + what + ": " + cause_in_words(cause) + ".");
 }
 
 std::error_code last_error() { return {errno, std::generic_category()}; }
@@ -36,7 +32,7 @@ using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
 // Opens without a buffer: every read and write here is a large one of the caller's own.
 OpenFile open_file(const fs::path& file, const char* mode) {
-    OpenFile opened(std::fopen(file.c_str(), mode));
+    OpenFile opened(host_system::open(file, mode));
     if (opened) std::setvbuf(opened.get(), nullptr, _IONBF, 0);
     return opened;
 }
@@ -92,21 +88,6 @@ std::vector<std::string> names_in(
     return sorted;
 }
 
-// Memory for a file's bytes. Asking for large pages saves the system the most of its work on a
-// large file; where it has none, nothing is lost.
-std::unique_ptr<char[]> memory_for_text(std::size_t size) {
-    auto bytes = std::make_unique_for_overwrite<char[]>(size);
-#ifdef MADV_HUGEPAGE
-    constexpr std::size_t large_page = 2 * 1024 * 1024;
-    void* first = bytes.get();
-    std::size_t space = size;
-    if (std::align(large_page, large_page, first, space) != nullptr) {
-        madvise(first, space - space % large_page, MADV_HUGEPAGE);
-    }
-#endif
-    return bytes;
-}
-
 bool is_folder(const fs::path& path) {
     std::error_code ignored;
     return fs::is_directory(path, ignored);
@@ -117,7 +98,7 @@ FileText read_to_end(std::FILE* opened, const fs::path& file, const std::string&
     std::error_code ignored;
     const auto told_size = fs::file_size(file, ignored);
     std::size_t capacity = (ignored ? 0 : static_cast<std::size_t>(told_size)) + FileText::slack;
-    auto bytes = memory_for_text(capacity);
+    auto bytes = host_system::memory_for_text(capacity);
     std::size_t size = 0;
     for (;;) {
         const std::size_t got = std::fread(bytes.get() + size, 1, capacity - size, opened);
@@ -126,7 +107,7 @@ FileText read_to_end(std::FILE* opened, const fs::path& file, const std::string&
         if (std::ferror(opened) != 0 && errors == ReadErrors::fail) fail(shown, "read", fault);
         if (capacity - size < FileText::slack) {
             capacity *= 2;
-            auto larger = memory_for_text(capacity);
+            auto larger = host_system::memory_for_text(capacity);
             std::copy_n(bytes.get(), size, larger.get());
             bytes = std::move(larger);
         }
@@ -172,7 +153,11 @@ std::unique_ptr<OutputFile> HostFiles::append(std::string_view path) { return op
 std::unique_ptr<OutputFile> HostFiles::open(std::string_view path, const char* mode) const {
     fs::path host = host_path(path);
     OpenFile file = open_file(host, mode);
-    if (!file) fail(to_utf8(path), "opened for writing", last_error());
+    if (!file) {
+        const std::error_code fault = last_error();
+        fail(to_utf8(path), "opened for writing",
+             is_folder(host) ? std::make_error_code(std::errc::is_a_directory) : fault);
+    }
     return std::make_unique<HostOutputFile>(std::move(file), std::move(host), to_utf8(path));
 }
 
@@ -192,8 +177,8 @@ std::vector<std::string> HostFiles::drives() const { return paths_.drives(); }
 
 std::vector<std::string> HostFiles::folders_in(std::string_view path) const {
     return names_in(host_path(path), to_utf8(path),
-                    [](const fs::directory_entry& entry, const std::string& name) {
-                        return name.front() != '.' && is_folder(entry.path());
+                    [](const fs::directory_entry& entry, const std::string& /*name*/) {
+                        return is_folder(entry.path()) && !host_system::is_hidden(entry.path());
                     });
 }
 
@@ -210,9 +195,10 @@ fs::path HostFiles::host_path(std::string_view path) const {
     return paths_.host(paths_.parse(path));
 }
 
-fs::path home_folder() {
-    const char* const home = std::getenv("HOME");
-    return home != nullptr && *home != '\0' ? fs::path(home) : fs::path("/");
+fs::path home_folder() { return host_system::drive_c(); }
+
+std::string cause_in_words(const std::error_code& cause) {
+    return cause.default_error_condition().message();
 }
 
 FileText read_host_file(const fs::path& file, const std::string& shown, ReadErrors errors) {

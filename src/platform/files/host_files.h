@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <system_error>
 
 #include "platform/files.h"
 #include "platform/files/host_paths.h"
@@ -35,12 +36,16 @@ class HostFiles : public Files {
     HostPaths paths_;
 };
 
-// The host folder of drive `c:` in the program as its users run it: the user's home.
+// The host folder of drive `c:` in the program as its users run it: the user's home, and on Windows
+// the drive itself.
 std::filesystem::path home_folder();
 
 // The whole of a host file, as Files::read() gives it; `shown` is its name in a failure's sentence,
 // in UTF-8.
 FileText read_host_file(const std::filesystem::path& file, const std::string& shown,
                         ReadErrors errors = ReadErrors::fail);
+
+// What a failure was caused by, in the words of the C library on every system.
+std::string cause_in_words(const std::error_code& cause);
 
 }  // namespace brooklander

@@ -1,11 +1,11 @@
 #include "platform/files/host_paths.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "platform/code_page.h"
 #include "platform/fatal_failure.h"
+#include "platform/files/host_system.h"
 
 namespace brooklander {
 namespace {
@@ -13,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char home_drive = 'c';
-constexpr char whole_drive = 'z';
 constexpr std::string_view slashes = "\\/";
 
 bool is_slash(char byte) { return slashes.find(byte) != std::string_view::npos; }
@@ -43,25 +42,6 @@ void add_names(std::vector<std::string>& names, std::string_view path) {
     }
 }
 
-fs::path host_name(const std::string& name) {
-    const std::string utf8 = to_utf8(name);
-    return fs::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
-// The name in a folder that a name means, which must not be there as it is spelled.
-std::optional<fs::path> other_spelling(const fs::path& folder, const std::string& name) {
-    std::optional<fs::path> found;
-    std::error_code fault;
-    fs::directory_iterator entry(folder, fault);
-    for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
-        const fs::path candidate = entry->path().filename();
-        const std::string spelled = program_name(candidate);
-        if (spelled.empty() || !same_but_for_case(spelled, name)) continue;
-        if (!found || candidate < *found) found = candidate;
-    }
-    return found;
-}
-
 }  // namespace
 
 std::string ProgramPath::text() const {
@@ -80,7 +60,8 @@ ProgramPath HostPaths::parse(std::string_view path) const {
         throw FatalFailure("\"" + to_utf8(path) + "\" is no path to a file: " + cause + ".");
     };
     if (path.empty()) fail("no name is given");
-    if (parsed.drive != home_drive && parsed.drive != whole_drive) {
+    if (parsed.drive != home_drive &&
+        host_system::other_drives().find(parsed.drive) == std::string::npos) {
         fail("there is no drive " + to_utf8(path.substr(0, 2)));
     }
     std::string_view rest = path;
@@ -99,25 +80,23 @@ ProgramPath HostPaths::parse(std::string_view path) const {
 }
 
 fs::path HostPaths::host(const ProgramPath& path) const {
-    fs::path host = path.drive == home_drive ? drive_c_ : fs::path("/");
-    for (const std::string& name : path.names) {
-        fs::path spelled = host_name(name);
-        std::error_code ignored;
-        if (!fs::exists(fs::symlink_status(host / spelled, ignored))) {
-            if (auto other = other_spelling(host, name)) spelled = std::move(*other);
-        }
-        host /= spelled;
-    }
+    fs::path host = path.drive == home_drive ? drive_c_ : host_system::root_of(path.drive);
+    for (const std::string& name : path.names) host /= host_system::spelling_of(host, name);
     return host;
 }
 
 std::vector<std::string> HostPaths::drives() const {
-    return {std::string{home_drive, ':'}, std::string{whole_drive, ':'}};
+    std::string letters = host_system::other_drives() + home_drive;
+    std::sort(letters.begin(), letters.end());
+    std::vector<std::string> drives;
+    for (const char letter : letters) drives.push_back({letter, ':'});
+    return drives;
 }
 
+fs::path host_name(const std::string& name) { return host_system::path_of(to_utf8(name)); }
+
 std::string program_name(const fs::path& host_name) {
-    const std::u8string utf8 = host_name.u8string();
-    std::string name = from_utf8(std::string(utf8.begin(), utf8.end())).value_or("");
+    std::string name = from_utf8(host_system::utf8_of(host_name)).value_or("");
     const bool allowed = std::none_of(name.begin(), name.end(), is_forbidden) &&
                          name.find_first_of(slashes) == std::string::npos;
     return allowed ? name : std::string();

@@ -1,8 +1,9 @@
 // Where the program's paths lie on the host.
 //
-// Drive `c:` is a folder of the host (the user's home), `z:` its whole file system. Names are
-// found without regard to case; where several host names differ in case only, the one spelled as
-// asked for is meant, otherwise the first by name.
+// On Windows the program's paths are the host's, but that a folder can stand for drive `c:`.
+// Elsewhere drive `c:` is a folder of the host (the user's home), `z:` its whole file system. Names
+// are found without regard to case; where several host names differ in case only, the one spelled
+// as asked for is meant, otherwise the first by name.
 #pragma once
 
 #include <filesystem>
@@ -44,6 +45,9 @@ class HostPaths {
     std::filesystem::path drive_c_;
     ProgramPath current_directory_;
 };
+
+// A name of the program as the host has it, spelled alike.
+std::filesystem::path host_name(const std::string& name);
 
 // A host name as the program spells it; an empty text when it cannot: when the code page lacks a
 // character of it, or when it holds one that no name may hold here.

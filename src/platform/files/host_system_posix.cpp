@@ -1,0 +1,78 @@
+#include <sys/mman.h>
+
+#include <cstdlib>
+#include <optional>
+
+#include "platform/code_page.h"
+#include "platform/files/host_paths.h"
+#include "platform/files/host_system.h"
+
+namespace brooklander::host_system {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The name in a folder that a name means, which must not be there as it is spelled.
+std::optional<fs::path> other_spelling(const fs::path& folder, const std::string& name) {
+    std::optional<fs::path> found;
+    std::error_code fault;
+    fs::directory_iterator entry(folder, fault);
+    for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
+        const fs::path candidate = entry->path().filename();
+        const std::string spelled = program_name(candidate);
+        if (spelled.empty() || !same_but_for_case(spelled, name)) continue;
+        if (!found || candidate < *found) found = candidate;
+    }
+    return found;
+}
+
+}  // namespace
+
+fs::path drive_c() {
+    const char* const home = std::getenv("HOME");
+    return home != nullptr && *home != '\0' ? fs::path(home) : fs::path("/");
+}
+
+// The whole file system.
+std::string other_drives() { return "z"; }
+
+fs::path root_of(char /*drive*/) { return "/"; }
+
+fs::path spelling_of(const fs::path& folder, const std::string& name) {
+    fs::path spelled = host_name(name);
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(folder / spelled, ignored))) return spelled;
+    return other_spelling(folder, name).value_or(std::move(spelled));
+}
+
+bool is_hidden(const fs::path& folder) { return folder.filename().native().front() == '.'; }
+
+std::FILE* open(const fs::path& file, const char* mode) { return std::fopen(file.c_str(), mode); }
+
+std::error_code remove_tree(const fs::path& path) {
+    std::error_code fault;
+    fs::remove_all(path, fault);
+    return fault;
+}
+
+// Asking for large pages saves the system the most of its work on a large file; where it has none,
+// nothing is lost.
+std::unique_ptr<char[]> memory_for_text(std::size_t size) {
+    auto bytes = std::make_unique_for_overwrite<char[]>(size);
+#ifdef MADV_HUGEPAGE
+    constexpr std::size_t large_page = 2 * 1024 * 1024;
+    void* first = bytes.get();
+    std::size_t space = size;
+    if (std::align(large_page, large_page, first, space) != nullptr) {
+        madvise(first, space - space % large_page, MADV_HUGEPAGE);
+    }
+#endif
+    return bytes;
+}
+
+std::string utf8_of(const fs::path& path) { return path.string(); }
+
+fs::path path_of(std::string_view path) { return path; }
+
+}  // namespace brooklander::host_system
