@@ -8,6 +8,7 @@
 #include "scenario/options.h"
 #include "scenario/scenario_error.h"
 #include "scenario/stage.h"
+#include "scenario/terminal.h"
 
 namespace brooklander::guide {
 namespace {
@@ -128,7 +129,7 @@ void make_page(const scenario::Options& options, const scenario::FrontMaker& mak
 
 int run_guide(int argc, char** argv, const scenario::DrawnFrontMaker& drawn_front_maker) {
     try {
-        const scenario::Options options = scenario::options_of(argc, argv);
+        const scenario::Options options = scenario::options_of(scenario::command_line(argc, argv));
         make_page(options,
                   options.drawn ? drawn_front_maker(options.shots) : scenario::undrawn_front);
         return is_written;
