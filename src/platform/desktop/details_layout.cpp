@@ -309,6 +309,7 @@ Card* details_sheet(Details& details, Draw& draw) {
     Card* const sheet = draw.sheet();
     QLabel* const typing = draw.caption(details.lblTyping);
     GridWidget* const table = draw.grid(details.MSFlexDetails, shown(details.text()));
+    table->keep_first_column();
     table->set_empty_text(QStringLiteral("There are no characteristics to detail."));
     sheet->content()->addWidget(typing);
     sheet->content()->addWidget(of_height_left(table), 1);
