@@ -96,7 +96,7 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
         painter.drawLine(place.bottomLeft(), place.bottomRight());
         painter.setPen(right_of_column(colours, column));
         painter.drawLine(place.topRight(), place.bottomRight());
-        painter.setPen(isEnabled() ? text : colours.edge);
+        painter.setPen(isEnabled() ? text : colours.faint);
         painter.drawText(place.adjusted(cell_margin, 0, -cell_margin, 0),
                          Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, row.cut[at]);
         if (hasFocus() && cell == current_) {
