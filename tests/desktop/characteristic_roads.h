@@ -81,6 +81,15 @@ inline void open(DrawnProgram& drawn, TickBox FrmCharacteristicDetails::*box) {
     drawn.act([&] { (drawn.screens().frmCharacteristicDetails.*box).turn_over(); });
 }
 
+// A table that has lost its names cannot be saved.
+inline void save_unnamed(DrawnProgram& drawn) {
+    FrmCharacteristicDetails& details = drawn.screens().frmCharacteristicDetails;
+    drawn.act([&] {
+        details.MSFlexDetails.clear();
+        details.cmdSave.press();
+    });
+}
+
 inline std::map<std::string, std::function<void(DrawnProgram&)>> characteristic_roads() {
     using Details = FrmCharacteristicDetails;
     return {
@@ -164,11 +173,25 @@ inline std::map<std::string, std::function<void(DrawnProgram&)>> characteristic_
         {"details b error",
          [](DrawnProgram& drawn) {
              open(drawn, &Details::chkUOM);
-             Details& details = drawn.screens().frmCharacteristicDetails;
+             save_unnamed(drawn);
+         }},
+        {"details c error beside value type",
+         [](DrawnProgram& drawn) {
+             open(drawn, &Details::chkValue);
+             save_unnamed(drawn);
+         }},
+        {"details d error beside weight",
+         [](DrawnProgram& drawn) {
+             open(drawn, &Details::chkWeight);
+             save_unnamed(drawn);
+         }},
+        {"details e error beside procedures",
+         [](DrawnProgram& drawn) {
+             open(drawn, &Details::chkProc);
              drawn.act([&] {
-                 details.MSFlexDetails.clear();
-                 details.cmdSave.press();
+                 drawn.screens().frmCharacteristicDetails.MSHFlexSource.click_cell({1, 0});
              });
+             save_unnamed(drawn);
          }},
     };
 }

@@ -293,6 +293,7 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 constexpr double readable = 4.5;
+constexpr double readable_at_rest = 3.5;
 
 TEST(Colours, TextCanBeReadOnEveryTintInLightAndDark) {
     for (const Scheme& scheme : schemes()) {
@@ -311,6 +312,9 @@ TEST(Colours, TextCanBeReadOnEveryTintInLightAndDark) {
         EXPECT_GE(contrast(colours.title, colours.card), readable) << scheme.name;
         EXPECT_GE(contrast(colours.title, colours.page), readable) << scheme.name;
         EXPECT_GE(contrast(colours.accent_text, colours.accent), readable) << scheme.name;
+        for (const QColor& behind : {colours.card, colours.page, colours.rest}) {
+            EXPECT_GE(contrast(colours.faint, behind), readable_at_rest) << scheme.name;
+        }
     }
 }
 

@@ -25,6 +25,8 @@ Colours colours_of(const QPalette& palette) {
     colours.line = mixed(colours.card, mixed(colours.text, teal, 0.4), 0.18);
     colours.edge = mixed(colours.card, mixed(colours.text, teal, 0.3), 0.45);
     colours.quiet = mixed(colours.card, colours.text, 0.72);
+    colours.faint = mixed(colours.card, colours.text, 0.57);
+    colours.rest = mixed(colours.page, colours.line, 0.4);
     colours.title = colours.dark ? QColor(0x7a, 0xd3, 0xe8) : QColor(0x0b, 0x4f, 0x66);
     colours.accent = colours.dark ? QColor(0x0f, 0x77, 0x92) : QColor(0x0a, 0x6e, 0x8c);
     colours.accent_text = Qt::white;

@@ -14,6 +14,8 @@ struct Colours {
     QColor edge;  // borders of what can be worked
     QColor text;
     QColor quiet;  // captions and notes
+    QColor faint;  // what is disabled
+    QColor rest;   // behind a filled button that is disabled
     QColor title;
     QColor accent;       // the one filled button, the selected entry
     QColor accent_text;  // on the accent

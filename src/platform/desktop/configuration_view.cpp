@@ -79,6 +79,7 @@ Card* configuration_card(ConfigurationPanel& panel, const QString& project_name_
     card->content()->addLayout(values(panel, project_name_caption, card, draw));
     GridWidget* const characteristics =
         draw.grid(panel.MSFlexCharacteristics, QStringLiteral("Characteristics"));
+    characteristics->keep_first_column();
     characteristics->set_empty_text(
         QStringLiteral("No characteristics are set up for this configuration file."));
     card->content()->addWidget(characteristics, 1);

@@ -47,7 +47,11 @@ Card* installation_card(FrmDataLogger& logger, QPushButton*& go_on, Draw& draw) 
          {logger.txtOperatingPeriod, logger.txtOperatingPeriod,
           QStringLiteral("operating period")}});
     go_on = draw.filled(logger.cmdCharContinue, 'n');
-    card->content()->addLayout(foot({}, note, go_on));
+    // The button comes up where the note has stood, in a line of the same height.
+    leave_no_place(go_on);
+    QHBoxLayout* const line = foot({}, note, go_on);
+    line->addStrut(go_on->sizeHint().height());
+    card->content()->addLayout(line);
     card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     return card;
 }

@@ -33,6 +33,7 @@ constexpr std::array<LetteredBox, 6> optional_boxes{{
     {&Details::chkDuration, 'D'},
     {&Details::chkLab, 'B'},
 }};
+// Either the last question or the error stands below, so that their No and Close share the O.
 constexpr char for_all_letter = 's';  // of the Yes of every panel; Y is the last question's
 
 template <std::size_t count>
@@ -95,7 +96,7 @@ Card* sources_card(Details& details, Draw& draw) {
 QVBoxLayout* procedure_search(Details& details, Draw& draw) {
     auto* const lines = new QVBoxLayout;
     lines->setSpacing(between_controls);
-    lines->addWidget(draw.tick_box(details.chkProcId, 'O'));
+    lines->addWidget(draw.tick_box(details.chkProcId, 'N'));
     lines->addWidget(draw.tick_box(details.chkProcName, 'R'));
     lines->addWidget(draw.text_box(details.txtSearch, QStringLiteral("Search for procedures")));
     lines->addLayout(
@@ -217,7 +218,7 @@ Card* value_type_card(Details& details, Draw& draw) {
 Card* weight_card(Details& details, Draw& draw) {
     Card* const card = draw.card(details.frameWeight);
     return option_card(details.frameWeight,
-                       {draw.option(details.optNone, 'O'), draw.option(details.optWet, 'T'),
+                       {draw.option(details.optNone, 'N'), draw.option(details.optWet, 'T'),
                         draw.option(details.optDry, 'R'), draw.option(details.optAshFree, 'A')},
                        card, details.lblWeight, details.lblWeightAll, details.cmdWeightYes, draw);
 }
@@ -290,7 +291,7 @@ void lead_into_panels(Details& details, Draw& draw) {
 
 Card* confirm_card(Details& details, Draw& draw) {
     Card* const card = draw.card(details.frameSaveConfirm);
-    const auto [yes, no] = draw.to_go_on(card, details.cmdYes, details.cmdNo);
+    const auto [yes, no] = draw.to_go_on(card, details.cmdYes, details.cmdNo, 'O');
     card->head()->addWidget(draw.caption(details.lblSaveConfirm));
     card->head()->addWidget(yes);
     card->head()->addWidget(no);
@@ -299,7 +300,7 @@ Card* confirm_card(Details& details, Draw& draw) {
 
 Card* error_card(Details& details, Draw& draw) {
     Card* const card = draw.card(details.frameError);
-    QPushButton* const close = draw.button(details.cmdClose, 'l');
+    QPushButton* const close = draw.button(details.cmdClose, 'O');
     card->head()->addWidget(close);
     draw.window().asks(card, close, close);
     return card;
@@ -309,6 +310,7 @@ Card* details_sheet(Details& details, Draw& draw) {
     Card* const sheet = draw.sheet();
     QLabel* const typing = draw.caption(details.lblTyping);
     GridWidget* const table = draw.grid(details.MSFlexDetails, shown(details.text()));
+    table->keep_first_column();
     table->set_empty_text(QStringLiteral("There are no characteristics to detail."));
     sheet->content()->addWidget(typing);
     sheet->content()->addWidget(of_height_left(table), 1);

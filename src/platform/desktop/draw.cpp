@@ -80,8 +80,8 @@ QPushButton* Draw::button(Button& button, char letter, Weight weight) {
     return widget;
 }
 
-Draw::Answers Draw::to_go_on(Card* card, Button& yes, Button& no) {
-    const Answers answers{filled(yes, 'Y'), button(no, 'N')};
+Draw::Answers Draw::to_go_on(Card* card, Button& yes, Button& no, char letter_of_no) {
+    const Answers answers{filled(yes, 'Y'), button(no, letter_of_no)};
     window_.asks(card, answers.yes, answers.no);
     return answers;
 }

@@ -51,7 +51,7 @@ class Draw {
         QPushButton* yes;
         QPushButton* no;
     };
-    Answers to_go_on(Card* card, Button& yes, Button& no);
+    Answers to_go_on(Card* card, Button& yes, Button& no, char letter_of_no = 'N');
     Answers to_be_sure(Card* card, Button& yes, Button& no);
 
     QCheckBox* tick_box(TickBox& box, char letter = no_letter);

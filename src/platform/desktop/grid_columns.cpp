@@ -1,4 +1,4 @@
-// How wide the columns of a grid are.
+// How wide the columns of a grid are, and which of them are in sight.
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -102,6 +102,31 @@ void GridWidget::place_columns() {
     lefts_.assign(1, 0);
     lefts_.reserve(widths.size() + 1);
     for (const int width : widths) lefts_.push_back(lefts_.back() + width);
+}
+
+int GridWidget::kept_width() const {
+    if (!keeps_first_column_ || columns_ < 2) return 0;
+    return 2 * lefts_[1] <= viewport()->width() - row_heading_ ? lefts_[1] : 0;
+}
+
+void GridWidget::read_page_columns() {
+    page_columns_.clear();
+    first_column_ = kept_width() > 0 ? 1 : 0;
+    while (first_column_ < columns_ &&
+           column_left(first_column_) + column_width(first_column_) <= scrolled_left()) {
+        ++first_column_;
+    }
+    for (int column = first_column_; column < columns_ && column_left(column) < viewport()->width();
+         ++column) {
+        page_columns_.push_back(column);
+    }
+    if (kept_width() > 0) page_columns_.push_back(0);
+}
+
+std::optional<std::size_t> GridWidget::place_on_page(int column) const {
+    const auto found = std::find(page_columns_.begin(), page_columns_.end(), column);
+    if (found == page_columns_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - page_columns_.begin());
 }
 
 // Where there is not room for all wishes, what is left beyond the needs is shared in the proportion

@@ -82,12 +82,12 @@ void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const
                          Qt::AlignVCenter | Qt::AlignRight, row_heading_of(row.row));
     }
     painter.setClipRect(row_heading_, 0, viewport()->width(), heading_height());
-    const int behind = columns_shown_to();
-    for (int column = first_column_; column < behind; ++column) {
+    for (const int column : page_columns_) {
         const ColumnMark& mark = column_marks_[std::size_t(column)];
         const QRect place(column_left(column), 0, column_width(column), heading_height() - 1);
+        if (is_kept(column)) painter.fillRect(place, colours.page);
         if (mark.tint) painter.fillRect(place, tint(colours, *mark.tint));
-        painter.setPen(colours.line);
+        painter.setPen(right_of_column(colours, column));
         painter.drawLine(place.topRight(), place.bottomRight());
         const QRect room = place.adjusted(cell_margin, 2, -cell_margin / 2, -2);
         const auto fitting = [&](const QString& text) {

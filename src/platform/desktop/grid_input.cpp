@@ -44,6 +44,7 @@ std::optional<Key> key_of(const QKeyEvent& event) {
 
 int GridWidget::column_at(int x) const {
     if (x < row_heading_) return -1;
+    if (x < scrolled_left()) return 0;
     for (int column = first_column_; column < columns_; ++column) {
         if (x < column_left(column) + column_width(column)) {
             return x >= column_left(column) ? column : -1;
@@ -62,7 +63,9 @@ std::optional<GridCell> GridWidget::cell_at(QPoint point) const {
         if (grid_.selection() != Selection::by_column || page_.empty()) return std::nullopt;
         return GridCell{page_.front().row, column};
     }
-    if (point.x() < row_heading_ && grid_.selection() == Selection::by_row) column = first_column_;
+    if (point.x() < row_heading_ && grid_.selection() == Selection::by_row) {
+        column = kept_width() > 0 ? 0 : first_column_;
+    }
     if (column < 0 || column >= columns_) return std::nullopt;
     for (const ShownRow& row : page_) {
         if (point.y() < row.top + row.height) return GridCell{row.row, column};
@@ -73,9 +76,12 @@ std::optional<GridCell> GridWidget::cell_at(QPoint point) const {
 // The column whose right border in the headings can be dragged at a point.
 std::optional<int> GridWidget::border_at(QPoint point) const {
     if (point.y() >= heading_height() || point.x() < row_heading_) return std::nullopt;
+    if (kept_width() > 0 && std::abs(point.x() - scrolled_left()) <= border_reach) return 0;
     for (int column = first_column_; column < columns_; ++column) {
         const int border = column_left(column) + column_width(column);
-        if (column_width(column) > 0 && std::abs(point.x() - border) <= border_reach) return column;
+        if (border > scrolled_left() && column_width(column) > 0 &&
+            std::abs(point.x() - border) <= border_reach)
+            return column;
     }
     return std::nullopt;
 }

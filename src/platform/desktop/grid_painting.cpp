@@ -70,12 +70,18 @@ QColor GridWidget::behind_column(const Colours& colours, int column) const {
     return number ? tint(colours, *number) : colours.card;
 }
 
+// What is scrolled vanishes behind a stronger line.
+QColor GridWidget::right_of_column(const Colours& colours, int column) const {
+    return is_kept(column) && x_ > 0 ? colours.edge : colours.line;
+}
+
 void GridWidget::paint_row(QPainter& painter, const Colours& colours, const ShownRow& row) const {
     if (row.height <= 0) return;
     for (std::size_t at = 0; at < row.texts.size(); ++at) {
-        const int column = first_column_ + static_cast<int>(at);
+        const int column = page_columns_[at];
         const GridCell cell{row.row, column};
         const QRect place(column_left(column), row.top, column_width(column), row.height);
+        if (is_kept(column)) painter.fillRect(place, colours.card);
         QColor text = colours.text;
         if (const auto own = grid_.cell_colour(cell)) {
             const QColor colour(*own & 0xff, (*own >> 8) & 0xff, (*own >> 16) & 0xff);
@@ -88,8 +94,9 @@ void GridWidget::paint_row(QPainter& painter, const Colours& colours, const Show
         }
         painter.setPen(colours.line);
         painter.drawLine(place.bottomLeft(), place.bottomRight());
+        painter.setPen(right_of_column(colours, column));
         painter.drawLine(place.topRight(), place.bottomRight());
-        painter.setPen(isEnabled() ? text : colours.edge);
+        painter.setPen(isEnabled() ? text : colours.faint);
         painter.drawText(place.adjusted(cell_margin, 0, -cell_margin, 0),
                          Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, row.cut[at]);
         if (hasFocus() && cell == current_) {

@@ -76,18 +76,13 @@ void GridWidget::fit_scroll_bars() {
     verticalScrollBar()->setPageStep(rows_in_view());
     const int room = viewport()->width() - row_heading_;
     horizontalScrollBar()->setRange(0, std::max(0, lefts_.back() - room));
-    horizontalScrollBar()->setPageStep(std::max(1, room));
+    horizontalScrollBar()->setPageStep(std::max(1, room - kept_width()));
     x_ = horizontalScrollBar()->value();
 }
 
 void GridWidget::read_page() {
     page_.clear();
-    first_column_ = 0;
-    while (first_column_ < columns_ &&
-           column_left(first_column_) + column_width(first_column_) <= row_heading_) {
-        ++first_column_;
-    }
-    const int behind = columns_shown_to();
+    read_page_columns();
     RowCells cells;
     int top = heading_height();
     // The place can change its size before the widget follows a grid that has lost rows.
@@ -99,7 +94,7 @@ void GridWidget::read_page() {
         shown_row.top = top;
         shown_row.height = row_pixels(row);
         grid_.read_row(row, cells);
-        for (int column = first_column_; column < behind; ++column) {
+        for (const int column : page_columns_) {
             const QString text = shown(cells[column]);
             shown_row.cut.push_back(
                 fontMetrics().elidedText(shown(without_padding(cells[column])), Qt::ElideRight,
@@ -108,12 +103,6 @@ void GridWidget::read_page() {
         }
         top += shown_row.height;
     }
-}
-
-int GridWidget::columns_shown_to() const {
-    int behind = first_column_;
-    while (behind < columns_ && column_left(behind) < viewport()->width()) ++behind;
-    return behind;
 }
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
@@ -146,8 +135,9 @@ void GridWidget::changeEvent(QEvent* event) {
 }
 
 QRect GridWidget::cell_place(GridCell cell) const {
-    if (cell.column < first_column_ || cell.column >= columns_shown_to()) return {};
-    const QRect room = viewport()->rect().adjusted(row_heading_, 0, 0, 0);
+    if (!place_on_page(cell.column)) return {};
+    const int from = is_kept(cell.column) ? row_heading_ : scrolled_left();
+    const QRect room = viewport()->rect().adjusted(from, 0, 0, 0);
     const int left = column_left(cell.column);
     const int width = column_width(cell.column);
     if (cell.row < fixed_rows_) return QRect(left, 0, width, heading_height()).intersected(room);
@@ -170,10 +160,10 @@ void GridWidget::bring_into_view(GridCell cell) {
             verticalScrollBar()->setValue(row - rows_in_view() + 1);
         }
     }
-    if (cell.column >= columns_) return;
-    const int room = viewport()->width() - row_heading_;
-    const int left = lefts_[std::size_t(cell.column)];
-    const int right = lefts_[std::size_t(cell.column) + 1];
+    if (cell.column >= columns_ || is_kept(cell.column)) return;
+    const int room = viewport()->width() - scrolled_left();
+    const int left = lefts_[std::size_t(cell.column)] - kept_width();
+    const int right = lefts_[std::size_t(cell.column) + 1] - kept_width();
     if (left < x_ || right - left > room) {
         horizontalScrollBar()->setValue(left);
     } else if (right > x_ + room) {
@@ -182,11 +172,9 @@ void GridWidget::bring_into_view(GridCell cell) {
 }
 
 std::optional<QString> GridWidget::text_on_screen(GridCell cell) const {
-    const int at = cell.column - first_column_;
+    const auto at = place_on_page(cell.column);
     for (const ShownRow& row : page_) {
-        if (row.row != cell.row) continue;
-        if (at < 0 || at >= static_cast<int>(row.texts.size())) break;
-        return row.texts[std::size_t(at)];
+        if (at && row.row == cell.row) return row.texts[*at];
     }
     return std::nullopt;
 }
@@ -204,7 +192,7 @@ QString GridWidget::difference() const {
     }
     for (const ShownRow& row : page_) {
         for (std::size_t at = 0; at < row.texts.size(); ++at) {
-            const int column = first_column_ + static_cast<int>(at);
+            const int column = page_columns_[at];
             if (row.texts[at] == shown(grid_.cell(row.row, column))) continue;
             return QStringLiteral("shows \"%1\" in cell %2 %3 on the screen")
                 .arg(row.texts[at])

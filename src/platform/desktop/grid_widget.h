@@ -62,6 +62,10 @@ class GridWidget : public QAbstractScrollArea {
     // Leaves the headings of rows without a name empty, for a grid that counts its rows itself.
     void drop_row_numbers();
 
+    // Keeps the first column in sight while the others are scrolled below it, as long as it leaves
+    // them half of the room.
+    void keep_first_column() { keeps_first_column_ = true; }
+
     // Shows the grid as it is now.
     void follow();
 
@@ -88,8 +92,7 @@ class GridWidget : public QAbstractScrollArea {
     int shown_rows() const { return std::max(0, data_rows()); }  // in sight or not
     int shown_columns() const { return columns_; }
     QString heading_text(int column) const { return heading_of(column); }
-    int columns_shown_to() const;  // behind the last column that is in the viewport
-    int rows_in_view() const;      // the whole rows that fit
+    int rows_in_view() const;  // the whole rows that fit
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -112,7 +115,7 @@ class GridWidget : public QAbstractScrollArea {
         int row = 0;
         int top = 0;
         int height = 0;
-        std::vector<QString> texts;  // whole, of the columns from first_column_ on
+        std::vector<QString> texts;  // whole, of the columns of the page
         std::vector<QString> cut;    // as far as they fit
     };
 
@@ -120,10 +123,18 @@ class GridWidget : public QAbstractScrollArea {
     int row_pixels(int row) const;
     // A caption has a line of its own below the number.
     int heading_height() const { return row_height_ + 4 + (marks_ ? fontMetrics().height() : 0); }
-    int column_left(int column) const { return row_heading_ + lefts_[std::size_t(column)] - x_; }
+    int column_left(int column) const {
+        return row_heading_ + lefts_[std::size_t(column)] - (is_kept(column) ? 0 : x_);
+    }
     int column_width(int column) const {
         return lefts_[std::size_t(column) + 1] - lefts_[std::size_t(column)];
     }
+    int kept_width() const;  // of the first column while it stays; 0 otherwise
+    bool is_kept(int column) const { return column == 0 && kept_width() > 0; }
+    // Where the columns begin that are scrolled.
+    int scrolled_left() const { return row_heading_ + kept_width(); }
+    void read_page_columns();
+    std::optional<std::size_t> place_on_page(int column) const;
     int column_at(int x) const;  // -1 in the row numbers and beyond the last
     std::optional<GridCell> cell_at(QPoint point) const;
     std::optional<int> border_at(QPoint point) const;
@@ -149,6 +160,7 @@ class GridWidget : public QAbstractScrollArea {
     int least_width() const;
     QFont caption_font() const;
     QColor behind_column(const Colours& colours, int column) const;
+    QColor right_of_column(const Colours& colours, int column) const;
     void paint_headings(QPainter& painter, const Colours& colours) const;
     void paint_row(QPainter& painter, const Colours& colours, const ShownRow& row) const;
 
@@ -159,6 +171,7 @@ class GridWidget : public QAbstractScrollArea {
     QString found_none_text_;
     bool shares_width_ = false;
     bool numbers_rows_ = true;
+    bool keeps_first_column_ = false;
     std::map<int, QString> column_names_;
     std::map<int, QString> row_names_;
 
@@ -179,7 +192,8 @@ class GridWidget : public QAbstractScrollArea {
     bool letters_measured_ = false;
     std::map<int, int> widths_by_hand_;
     std::vector<ShownRow> page_;
-    int first_column_ = 0;
+    int first_column_ = 0;           // in sight, of those that are scrolled
+    std::vector<int> page_columns_;  // in the order of painting: one that stays comes last
 
     std::optional<GridCell> pressed_;
     std::optional<int> dragged_column_;

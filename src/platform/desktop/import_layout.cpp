@@ -104,7 +104,7 @@ void add_category(Display& display, const Category& category, int number, QGridL
     display.lblSelectedCategory.observe([&display, &category, button] {
         set_mark(*button, "active", display.lblSelectedCategory.text() == category.text);
     });
-    button->setMinimumWidth(button->fontMetrics().averageCharWidth() * 19);
+    button->setMinimumWidth(button->fontMetrics().averageCharWidth() * 21);
 
     const QString name = shown((display.*category.button).text()).trimmed();
     ValueLabel* const column =

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -101,6 +102,14 @@ Card* search_sheet(NameTranslation& translation, const TranslationParts& parts, 
     search->lead_to(controls.search_text, 'g');
     search->content()->addWidget(controls.search_text);
     controls.search = draw.button(translation.cmdDisplay, 'S');
+    QLabel* const before =
+        draw.text(QStringLiteral("Select a name in the list to search for it."), sheet);
+    const auto tell = [&options = translation.frameOptions, before] {
+        before->setVisible(!options.visible());
+    };
+    translation.frameOptions.observe(tell);
+    tell();
+    sheet->content()->addWidget(before);
     sheet->content()->addWidget(search);
     sheet->content()->addLayout(row({controls.search}, Side::right));
     return sheet;
@@ -156,27 +165,13 @@ Card* translate_sheet(NameTranslation& translation, Controls& controls, Draw& dr
     return sheet;
 }
 
-QHBoxLayout* heading(NameTranslation& translation, Draw& draw) {
-    Card* const file = draw.card(translation.frameFile);
-    file->title()->setWordWrap(false);
-    file->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
-    file->head()->addWidget(draw.value(translation.lblFile, shown(translation.frameFile.text())));
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(between_cards);
-    line->addWidget(draw.title());
-    line->addSpacing(between_cards);
-    line->addWidget(file);
-    line->addStretch();
-    return line;
-}
-
 }  // namespace
 
 void lay_out_name_translation(NameTranslation& translation, const TranslationParts& parts,
                               Draw& draw) {
     constexpr int most_of_it = 10000;  // of what is left beside the steps
     Controls controls{};
-    draw.window().page()->addLayout(heading(translation, draw));
+    begin_step(translation.frameFile, translation.lblFile, draw);
     auto* const whole = new QHBoxLayout;
     whole->setSpacing(between_cards);
     Card* const names = names_sheet(translation, parts, controls, draw);

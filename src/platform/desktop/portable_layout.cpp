@@ -136,7 +136,7 @@ Card* more_data_card(Portable& portable, Draw& draw) {
 }  // namespace
 
 // From the top down: the number of lines and their labels, or the results; what comes after a save
-// at the foot.
+// below. The room that is left over lies below all.
 void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
     QPushButton* to_labels = nullptr;
     GridWidget* labels = nullptr;
@@ -147,7 +147,6 @@ void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
     page->addWidget(labels_card(portable, labels, draw), 1);
     page->addWidget(results_card(portable, draw), 1);
     lead_on(to_labels, labels);
-    page->addStretch(0);
 
     auto* const after = new QHBoxLayout;
     after->setSpacing(between_cards);
@@ -156,6 +155,7 @@ void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
         after->addWidget(card, 1);
     }
     page->addLayout(after);
+    page->addStretch(0);
 }
 
 }  // namespace brooklander::desktop

@@ -1,6 +1,8 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
+#include <array>
 
 #include "platform/desktop/file_choice.h"
 #include "platform/desktop/layouts.h"
@@ -81,6 +83,25 @@ Card* files_card(FrmStart& start, Draw& draw) {
                             draw);
 }
 
+// What to do, as long as nothing else stands on the screen.
+QLabel* what_to_do(FrmStart& start, Draw& draw) {
+    QLabel* const sentence = draw.text(
+        QStringLiteral("Open the Files menu to convert files or to set up configurations."),
+        draw.window().surface());
+    sentence->setWordWrap(false);
+    const std::array<Panel*, 5> panels{&start.frameOracleLogon, &start.frameOracleError,
+                                       &start.frameExit, &start.frameAbout, &start.frameFiles};
+    const auto tell = [&start, panels, sentence] {
+        sentence->setVisible(start.mnuFiles.enabled() &&
+                             std::none_of(panels.begin(), panels.end(),
+                                          [](const Panel* panel) { return panel->visible(); }));
+    };
+    start.mnuFiles.observe(tell);
+    for (Panel* const panel : panels) panel->observe(tell);
+    tell();
+    return sentence;
+}
+
 }  // namespace
 
 void lay_out_start(FrmStart& start, Draw& draw) {
@@ -93,6 +114,7 @@ void lay_out_start(FrmStart& start, Draw& draw) {
     page->addWidget(version, 0, Qt::AlignHCenter);
     page->addWidget(purpose, 0, Qt::AlignHCenter);
     page->addSpacing(between_cards);
+    page->addWidget(what_to_do(start, draw), 0, Qt::AlignHCenter);
     page->addLayout(in_the_middle(logon_card(start, draw)));
     page->addLayout(in_the_middle(refusal_card(start, draw)));
     page->addLayout(in_the_middle(exit_card(start, draw)));

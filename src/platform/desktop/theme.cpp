@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QWidget>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -41,7 +43,7 @@ QPushButton[filled="true"] { background: %accent; color: %accentText; border-col
               font-weight: bold; min-width: 88px; }
 QPushButton[filled="true"]:hover { background: %accentOver; border-color: %accentOver; }
 QPushButton[filled="true"]:focus { border: 2px solid %text; }
-QPushButton[filled="true"]:disabled { background: %line; color: %faint; border-color: %line; }
+QPushButton[filled="true"]:disabled { background: %rest; color: %faint; border-color: %line; }
 QPushButton[active="true"] { background: %soft; border: 2px solid %accent; padding: 0 11px;
               min-height: 24px; }
 QLineEdit { background: %card; color: %text; border: 1px solid %edge;
@@ -67,7 +69,7 @@ QAbstractScrollArea::corner { background: %page; }
 QToolTip { background: %card; color: %text; border: 1px solid %edge; padding: 4px; }
 )");
     // Longer names first, since a shorter one may begin one.
-    const std::array<std::pair<const char*, QColor>, 15> names{{
+    const std::array<std::pair<const char*, QColor>, 16> names{{
         {"%accentText", colours.accent_text},
         {"%accentOver", mixed(colours.accent, colours.accent_text, 0.12)},
         {"%accent", colours.accent},
@@ -81,17 +83,48 @@ QToolTip { background: %card; color: %text; border: 1px solid %edge; padding: 4p
         {"%quiet", colours.quiet},
         {"%title", colours.title},
         {"%soft", colours.soft},
-        {"%faint", mixed(colours.card, colours.text, 0.45)},
+        {"%faint", colours.faint},
+        {"%rest", colours.rest},
         {"%wave", colours.wave},
     }};
     for (const auto& [name, colour] : names) sheet.replace(QLatin1String(name), colour.name());
     return sheet;
 }
 
-// The toolkit's style, but for two things. It draws the marks of boxes and options in a line
-// somewhat darker than the window, which nobody sees on a dark one; and it leaves separators in
-// menu bars out.
+// A closed list, framed as a box of text is, with a small arrow at its right end.
+void draw_pick_list(const QStyleOption& option, QPainter& painter) {
+    constexpr qreal radius = 4;
+    constexpr qreal arrow_from_right = 14;
+    constexpr qreal arrow_half = 4;
+    const Colours colours = own_colours();
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool focused = enabled && option.state.testFlag(QStyle::State_HasFocus);
+    const qreal thickness = focused ? 2 : 1;
+    const QRectF frame =
+        QRectF(option.rect).adjusted(thickness / 2, thickness / 2, -thickness / 2, -thickness / 2);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(enabled ? colours.card : colours.page);
+    painter.setPen(QPen(focused   ? colours.accent
+                        : enabled ? colours.edge
+                                  : colours.line,
+                        thickness));
+    painter.drawRoundedRect(frame, radius, radius);
+    const QPointF tip(option.rect.right() - arrow_from_right,
+                      option.rect.center().y() + arrow_half / 2 + 0.5);
+    painter.setPen(QPen(enabled ? colours.quiet : colours.faint, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(QPolygonF{tip + QPointF(-arrow_half, -arrow_half), tip,
+                                   tip + QPointF(arrow_half, -arrow_half)});
+    painter.restore();
+}
+
+// The toolkit's style, but for three things. It draws the marks of boxes and options in a line
+// somewhat darker than the window, which nobody sees on a dark one; it draws closed lists as raised
+// buttons, unlike everything beside them; and it leaves separators in menu bars out.
 class OwnStyle : public QProxyStyle {
+    static constexpr int text_in_box = 8;  // from the box's left end
+
   public:
     using QProxyStyle::QProxyStyle;
 
@@ -109,6 +142,32 @@ class OwnStyle : public QProxyStyle {
         seen.palette.setColor(QPalette::Window,
                               mixed(colours.card, colours.text, 0.5).lighter(darker_by));
         QProxyStyle::drawPrimitive(element, &seen, painter, widget);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        if (control == CC_ComboBox) {
+            draw_pick_list(*option, *painter);
+        } else {
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+        }
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        constexpr int height_of_controls = 28;
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        if (type != CT_ComboBox) return size;
+        return {size.width() + text_in_box, std::max(size.height(), height_of_controls)};
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        QRect place = QProxyStyle::subControlRect(control, option, part, widget);
+        if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+            place.setLeft(option->rect.left() + text_in_box);
+        }
+        return place;
     }
 
     // What stands behind a separator in a menu bar stands apart, at its right end.
