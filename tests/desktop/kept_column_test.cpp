@@ -25,8 +25,10 @@ class DrawnGridThatKeepsAColumn : public DrawnGrid {
         view_->follow();
     }
 
+    // At a point of the widget, whatever the scale of the display.
     QColor colour_at(QPoint point) {
-        return widget_->viewport()->grab().toImage().pixelColor(point);
+        const QImage picture = widget_->viewport()->grab().toImage();
+        return picture.pixelColor(point * picture.devicePixelRatio());
     }
 };
 
