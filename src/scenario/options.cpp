@@ -44,6 +44,7 @@ void add_variable(Variables& variables, const std::string& assignment) {
 
 Options options_of(std::vector<std::string> words) {
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     const auto count = static_cast<int>(pointers.size());
     pointers.push_back(nullptr);

@@ -55,7 +55,7 @@ bool fits_a_remark(std::string_view text) {
 }  // namespace
 
 Recording::Recording(const Screens& screens, std::vector<RecordedLine> lines,
-                     Credentials credentials)
+                     const Credentials& credentials)
     : screens_(screens), lines_(std::move(lines)) {
     // A password that is a user id, too, goes as the password.
     const auto name_all = [this](const std::vector<std::string>& values, const char* name) {
@@ -118,8 +118,7 @@ std::string Recording::head(std::string_view own_name, const Used& used) const {
 }
 
 std::string Recording::written(const RecordedLine& line, Used& used) const {
-    const std::string beginning =
-        (line.forced ? "force " : "") + line.verb + " " + line.field->path();
+    std::string beginning = (line.forced ? "force " : "") + line.verb + " " + line.field->path();
     if (const auto* const typed = std::get_if<TypedText>(&line.what)) {
         return beginning + " " + word(typed->text, may_name_files(*line.field), used);
     }

@@ -34,7 +34,8 @@ struct Credentials {
 // - Folders stay as they were; next month's file lies where last month's did.
 class Recording {
   public:
-    Recording(const Screens& screens, std::vector<RecordedLine> lines, Credentials credentials);
+    Recording(const Screens& screens, std::vector<RecordedLine> lines,
+              const Credentials& credentials);
 
     // The scenario, in UTF-8, whose first lines say what its variables are and how it is played.
     // The name is the file's own, in UTF-8.

@@ -2,6 +2,7 @@
 // the build takes the one for its system.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,10 +16,12 @@ class Terminal {
     Terminal();
     Terminal(const Terminal&) = delete;
     Terminal& operator=(const Terminal&) = delete;
-    ~Terminal();
+    ~Terminal() {
+        if (restore_) restore_();
+    }
 
   private:
-    unsigned code_page_before_ = 0;  // of the console; 0 for none
+    std::function<void()> restore_;  // takes back what the console was set to
 };
 
 // The words of the command line in UTF-8, the program's own name first. `argc` and `argv` are those

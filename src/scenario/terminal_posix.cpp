@@ -35,7 +35,6 @@ class WithoutEcho {
 
 // Bytes pass as they are.
 Terminal::Terminal() = default;
-Terminal::~Terminal() = default;
 
 std::vector<std::string> command_line(int argc, char** argv) { return {argv, argv + argc}; }
 

@@ -54,12 +54,10 @@ class SilentConsole {
 
 Terminal::Terminal() {
     for (std::FILE* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
-    code_page_before_ = GetConsoleOutputCP();
-    if (code_page_before_ != 0) SetConsoleOutputCP(CP_UTF8);
-}
-
-Terminal::~Terminal() {
-    if (code_page_before_ != 0) SetConsoleOutputCP(code_page_before_);
+    const UINT before = GetConsoleOutputCP();
+    if (before == 0) return;
+    SetConsoleOutputCP(CP_UTF8);
+    restore_ = [before] { SetConsoleOutputCP(before); };
 }
 
 // main() gets the command line in the machine's own code page.
