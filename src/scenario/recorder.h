@@ -9,16 +9,14 @@
 //   first. Of selections in the start screen's list of files that follow each other directly, as
 //   arrow keys make them, the last one stands for all: each takes the other's place whole.
 // - Where a grid's current cell alone has moved, nothing is written before that matters: a click
-// goes
-//   to its cell by itself, Enter is a click, and before any other act `keys` lead to the cell. In
-//   grids that are typed into, or that notice the way, all keys are written in their order.
+//   goes to its cell by itself, Enter is a click, and before any other act `keys` lead to the cell.
+//   In grids that are typed into, or that notice the way, all keys are written in their order.
 // - What the user id and the password were is never written; scenario/recording.h says how.
-// Attempts
-//   to log on that failed are left out when the next thing was to try again, since a scenario that
-//   is given the right password cannot fail.
+//   Attempts to log on that failed are left out when the next thing was to try again, since a
+//   scenario that is given the right password cannot fail.
 // - That a text box got the keyboard is no act, nor is what was done to the help or to this
-// recorder's
-//   own menu. The frames of screens without an Exit are not recorded: no menu leads to them.
+//   recorder's own menu. The frames of screens without an Exit are not recorded: no menu leads to
+//   them.
 #pragma once
 
 #include <optional>
