@@ -1,7 +1,6 @@
 #include "scenario/recorder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "shared/place_lists.h"
@@ -25,15 +24,24 @@ bool is_arrow(Key key) {
            key.name == Key::Name::left || key.name == Key::Name::right;
 }
 
-// Across first: a cell in a fixed column has no way down.
-PressedKeys arrows(GridCell from, GridCell to) {
+// The way that the arrow keys lead from one cell to another, across first.
+PressedKeys arrows(const Grid& grid, GridCell from, GridCell to) {
     PressedKeys keys;
-    const auto go = [&keys](int steps, Key::Name forward, Key::Name back) {
-        keys.insert(keys.end(), static_cast<std::size_t>(std::abs(steps)),
-                    {steps > 0 ? forward : back});
+    const auto go = [&](Key::Name key, int rows_down, int columns_right) {
+        const GridCell next = grid.step_from(from, rows_down, columns_right);
+        if (next == from) return false;
+        keys.push_back({key});
+        from = next;
+        return true;
     };
-    go(to.column - from.column, Key::Name::right, Key::Name::left);
-    go(to.row - from.row, Key::Name::down, Key::Name::up);
+    while (from.column < to.column && go(Key::Name::right, 0, 1)) {
+    }
+    while (from.column > to.column && go(Key::Name::left, 0, -1)) {
+    }
+    while (from.row < to.row && go(Key::Name::down, 1, 0)) {
+    }
+    while (from.row > to.row && go(Key::Name::up, -1, 0)) {
+    }
     return keys;
 }
 
@@ -124,7 +132,7 @@ void Recorder::take_key(Grid& grid, Key key) {
 // Where it ends is seen when it matters.
 void Recorder::take_move(Grid& grid, GridCell cell) {
     if (notices_keys(grid)) {
-        take_keys(grid, arrows(grid.current(), cell));
+        take_keys(grid, arrows(grid, grid.current(), cell));
         return;
     }
     if (move_ && move_->grid == &grid) return;
@@ -149,7 +157,7 @@ void Recorder::add(RecordedLine line) {
 
 std::vector<RecordedLine> Recorder::waiting_lines() const {
     if (move_) {
-        const PressedKeys keys = arrows(move_->from, move_->grid->current());
+        const PressedKeys keys = arrows(*move_->grid, move_->from, move_->grid->current());
         if (keys.empty()) return {};
         return {{"keys", move_->grid, keys}};
     }

@@ -109,7 +109,8 @@ class Field {
 
     // Tells whoever watches the user of an act, before it is done. To be made first in every member
     // named after what a user does, and to live as long as the act: what such members do to fields
-    // in turn is a part of it and is not told.
+    // in turn is a part of it and is not told. A text box tells each change of its text instead,
+    // as TextBox::edit() makes it.
     class ByUser {
       public:
         ByUser(Field& field, const UserAct& act);

@@ -154,11 +154,15 @@ void Grid::press_key(Key key) {
     const ByUser by_user(*this, KeyPressed{key});
     set_focus();
     if (on_key && on_key(key)) return;
+    const auto step = [this](int rows_down, int columns_right) {
+        const GridCell next = step_from(current_, rows_down, columns_right);
+        if (next != current_) make_current(next);  // an empty grid has no current cell to take
+    };
     switch (key.name) {
-        case Key::Name::up: move_current(-1, 0); break;
-        case Key::Name::down: move_current(1, 0); break;
-        case Key::Name::left: move_current(0, -1); break;
-        case Key::Name::right: move_current(0, 1); break;
+        case Key::Name::up: step(-1, 0); break;
+        case Key::Name::down: step(1, 0); break;
+        case Key::Name::left: step(0, -1); break;
+        case Key::Name::right: step(0, 1); break;
         case Key::Name::character:
             if (key.character != ' ') break;
             [[fallthrough]];
@@ -178,11 +182,13 @@ void Grid::move_to(GridCell cell) {
     make_current(cell);
 }
 
-void Grid::move_current(int rows_down, int columns_right) {
-    const GridCell target{current_.row + rows_down, current_.column + columns_right};
+GridCell Grid::step_from(GridCell cell, int rows_down, int columns_right) const {
+    GridCell target{cell.row + rows_down, cell.column + columns_right};
+    if (rows_down >= 0) target.row = std::max(target.row, fixed_rows_);
+    if (columns_right >= 0) target.column = std::max(target.column, fixed_columns_);
     const bool inside = target.row >= fixed_rows_ && target.row < rows() &&
                         target.column >= fixed_columns_ && target.column < columns();
-    if (inside) make_current(target);
+    return inside ? target : cell;
 }
 
 }  // namespace brooklander

@@ -107,16 +107,20 @@ class Grid : public PlacedField {
     // A user's click on a cell that is there. In a fixed row it does nothing.
     void click_cell(GridCell cell);
 
-    // A user's key at the current cell. Unless on_key takes it, arrows move the current cell among
-    // the rows and columns that are not fixed, and Enter or the space bar clicks it.
+    // A user's key at the current cell. Unless on_key takes it, arrows move the current cell by a
+    // step, and Enter or the space bar clicks it.
     void press_key(Key key);
 
     // A user's way to another cell, where more than an arrow key leads there: by pages, or to an
     // end of the grid. The cell is one of the grid's.
     void move_to(GridCell cell);
 
+    // Where a user's step by one row or one column leads from a cell: among the rows and columns
+    // that are not fixed, and from a fixed cell, where a step of the program may have left the
+    // current one, out to them. The cell itself where there is no such way.
+    GridCell step_from(GridCell cell, int rows_down, int columns_right) const;
+
   private:
-    void move_current(int rows_down, int columns_right);
     void keep_current_inside();
 
     TextGrid cells_;

@@ -271,6 +271,15 @@ TEST_F(RecorderTest, MovesOfTheCurrentCellAreWrittenWhereTheyMatter) {
                            "click frmImportFileDisplay.cmdDate\n");
 }
 
+TEST_F(RecorderTest, KeysLeadOutOfFixedColumns) {
+    Grid& log = screens().frmDataLoggerResults.MSFlexLog;
+    for (int row = 0; row < 5; ++row) log.add_row("07/01/2021\t0900\t1\t2");
+    ASSERT_EQ(log.fixed_columns(), 2);
+    log.make_current({0, 0});
+    log.move_to({4, 2});
+    EXPECT_EQ(lines(), "keys frmDataLoggerResults.MSFlexLog \"{Right}{Down 4}\"\n");
+}
+
 TEST_F(RecorderTest, WhatCouldNotBeWorkedIsForced) {
     start_screen().mnuExit.choose();
     EXPECT_EQ(lines(), "force click frmStart.mnuExit\n");

@@ -154,6 +154,23 @@ TEST_F(GridRules, ArrowsStayOutOfFixedColumns) {
     EXPECT_EQ(grid.fixed_columns(), 1);
 }
 
+TEST_F(GridRules, EveryArrowForwardLeadsOutOfFixedRowsAndColumns) {
+    test::FrmTest other(test_.desk, "frmOther");
+    Grid grid(other, "MSFlexFixed", {.columns = 4, .fixed_rows = 1, .fixed_columns = 2});
+    for (int row = 0; row < 3; ++row) grid.add_row("a\tb\tc\td");
+    const auto arrow_from = [&grid](GridCell start, Key::Name name) {
+        grid.make_current(start);
+        grid.press_key({name});
+        return grid.current();
+    };
+    EXPECT_EQ(arrow_from({0, 0}, Key::Name::down), (GridCell{1, 2}));
+    EXPECT_EQ(arrow_from({0, 0}, Key::Name::right), (GridCell{1, 2}));
+    EXPECT_EQ(arrow_from({1, 0}, Key::Name::down), (GridCell{2, 2}));
+    EXPECT_EQ(arrow_from({0, 3}, Key::Name::down), (GridCell{1, 3}));
+    EXPECT_EQ(arrow_from({2, 0}, Key::Name::left), (GridCell{2, 0}));
+    EXPECT_EQ(arrow_from({0, 3}, Key::Name::up), (GridCell{0, 3}));
+}
+
 TEST_F(GridRules, KnowsHowItIsShown) {
     EXPECT_EQ(grid_.selection(), Selection::free);
     EXPECT_EQ(grid_.highlight(), Highlight::always);
