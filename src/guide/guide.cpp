@@ -5,6 +5,7 @@
 
 #include "guide/guide_text.h"
 #include "guide/page.h"
+#include "platform/files/host_system.h"
 #include "scenario/options.h"
 #include "scenario/scenario_error.h"
 #include "scenario/stage.h"
@@ -48,7 +49,7 @@ std::vector<ReadPart> read_chapter(const fs::path& file) {
 // Does something that a line of a file asks for, and tells the place where it fails.
 template <typename Act>
 void at_line(const fs::path& file, int line, const Act& act) {
-    const std::string place = file.string() + ":" + std::to_string(line) + ": ";
+    const std::string place = host_system::utf8_of(file) + ":" + std::to_string(line) + ": ";
     try {
         act();
     } catch (const Unmet& unmet) {
@@ -92,6 +93,17 @@ void play_chapter(const fs::path& file, Stage& stage, Page& page) {
     at_line(file, last_line, [&] { page.end_chapter(); });
 }
 
+// Without a folder named, the chapters would be played in the user's home.
+scenario::Options options_of(std::vector<std::string> words) {
+    scenario::Options options = scenario::options_of(std::move(words));
+    const bool is_whole = !options.help && !options.home.empty() && options.files.size() > 1;
+    if (!is_whole || !options.variables.empty() || !options.secrets.empty()) {
+        throw WrongLine(
+            "brooklander-guide [--drawn] [--shots FOLDER] --home FOLDER PAGE CHAPTER...");
+    }
+    return options;
+}
+
 fs::path fresh_home(const fs::path& homes, const fs::path& chapter) {
     fs::path home = homes / chapter.stem();
     fs::remove_all(home);
@@ -103,7 +115,7 @@ void write_page(const fs::path& file, const std::string& html) {
     std::ofstream page(file, std::ios::binary);
     page << html;
     page.close();
-    if (!page) throw Unmet("\"" + file.string() + "\" cannot be written.");
+    if (!page) throw Unmet("\"" + host_system::utf8_of(file) + "\" cannot be written.");
 }
 
 void make_page(const scenario::Options& options, const scenario::FrontMaker& make_front) {
@@ -128,8 +140,9 @@ void make_page(const scenario::Options& options, const scenario::FrontMaker& mak
 }  // namespace
 
 int run_guide(int argc, char** argv, const scenario::DrawnFrontMaker& drawn_front_maker) {
+    const scenario::Terminal terminal;
     try {
-        const scenario::Options options = scenario::options_of(scenario::command_line(argc, argv));
+        const scenario::Options options = options_of(scenario::command_line(argc, argv));
         make_page(options,
                   options.drawn ? drawn_front_maker(options.shots) : scenario::undrawn_front);
         return is_written;

@@ -10,9 +10,10 @@ namespace brooklander::guide {
 //
 //   brooklander-guide [--drawn] [--shots FOLDER] --home FOLDER PAGE CHAPTER...
 //
-// Each chapter is played from a fresh program on a fresh folder below FOLDER. What fails is told as
-// the player tells it, and nothing is written then. Returns the exit status: 0, or 1 when something
-// failed, or 2 for a line that is none.
+// Each chapter is played from a fresh program on a fresh folder below FOLDER, made anew. What fails
+// is told in the player's words on standard error, and nothing is written then. Returns the exit
+// status: 0, or 1 when something failed, or 2 for a line that is none, the command line's among
+// them.
 int run_guide(int argc, char** argv, const scenario::DrawnFrontMaker& drawn_front_maker);
 
 }  // namespace brooklander::guide

@@ -1,6 +1,7 @@
 #include "guide/page.h"
 
-#include <cctype>
+#include <algorithm>
+#include <optional>
 
 #include "platform/code_page.h"
 #include "scenario/scenario_error.h"
@@ -28,19 +29,14 @@ std::string escaped(std::string_view text) {
 
 // A value with the blanks at its ends made visible.
 std::string with_blanks_shown(std::string_view text) {
-    constexpr std::string_view open_box = "\u2423";
+    const auto boxes = [](std::size_t count) {
+        std::string all;
+        for (std::size_t i = 0; i < count; ++i) all += "\u2423";  // an open box
+        return all;
+    };
     const std::string_view inner = trim(text);
-    if (inner.empty()) {
-        std::string boxes;
-        for (std::size_t i = 0; i < text.size(); ++i) boxes += open_box;
-        return boxes;
-    }
-    std::string html;
-    const auto before = static_cast<std::size_t>(inner.data() - text.data());
-    for (std::size_t i = 0; i < before; ++i) html += open_box;
-    html += escaped(to_utf8(inner));
-    for (std::size_t i = before + inner.size(); i < text.size(); ++i) html += open_box;
-    return html;
+    const std::size_t before = std::min(text.find_first_not_of(' '), text.size());
+    return boxes(before) + escaped(to_utf8(inner)) + boxes(text.size() - before - inner.size());
 }
 
 // A caption that stands before its field ends in a colon, which a sentence has no use for.
@@ -114,6 +110,7 @@ void Page::add_line(const std::string& line) {
     const std::string_view text = line;
     const std::size_t digits = text.find_first_not_of("0123456789");
     if (!text.starts_with('|')) put_table();
+    if (!trim(text).empty() && !text.starts_with('|')) want_no_fields();
     if (trim(text).empty()) {
         if (!paragraph_.ends_with('\\')) put_paragraph();
     } else if (text.starts_with('#')) {
@@ -148,6 +145,7 @@ void Page::end_part() {
     }
     put_paragraph();
     put_table();
+    want_no_fields();
 }
 
 void Page::picture_taken(const std::string& name) {
@@ -260,6 +258,11 @@ void Page::begin_fields(std::string_view line) {
     if (words.size() != 4) throw Unmet("It is written @fields PATH ID NAME.");
     fields_ = source_.fields_of(words[1], words[2], words[3]);
     if (fields_.empty()) throw Unmet("The load file has no line with the id " + words[2] + ".");
+}
+
+// A line of a load file that was asked for is told of in a table.
+void Page::want_no_fields() const {
+    if (!fields_.empty()) throw Unmet("No table stands behind @fields.");
 }
 
 void Page::put_fields_table() {

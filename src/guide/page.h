@@ -8,10 +8,9 @@
 //   | a | b |           a row of a table; the first one is its heading
 //   ![words](name)      the picture that a `shot` of that name has taken
 //   @fields PATH ID NAME
-//                       the table behind it has a row `| field | where from | what |` for each
-//   field
-//                       of a load file's line, with the value of that field put in; where it comes
-//                       from, another value or nothing, is held against it
+//                       the table behind it has a row for each field of a load file's line,
+//                       `| field | where from | what |`, with the value of that field put in; where
+//                       it comes from, another value or nothing, is held against it
 //   anything else       a paragraph; with a backslash at its end, it goes on behind the commands
 //
 // and within a line: {a value}, `as it is written`, __weight__ and [words](#name). Only a value
@@ -63,6 +62,7 @@ class Page {
     void put_paragraph();
     void put_table();
     void put_fields_table();
+    void want_no_fields() const;
     void close_list();
     void begin_fields(std::string_view words);
     std::string inline_html(std::string_view text);

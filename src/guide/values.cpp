@@ -3,9 +3,11 @@
 #include <algorithm>
 
 #include "characteristics/defaults_layout.h"
-#include "platform/fatal_failure.h"
+#include "platform/code_page.h"
 #include "scenario/arguments.h"
+#include "scenario/commands.h"
 #include "scenario/scenario_error.h"
+#include "scenario/user_words.h"
 #include "scenario/words.h"
 #include "shared/grid.h"
 #include "shared/text.h"
@@ -20,18 +22,12 @@ using Words = std::vector<std::string>;
 
 constexpr std::size_t place_of_activity_id = 6;  // from 0, among the fields of a line
 constexpr std::size_t place_of_name = 19;        // of the characteristic
-constexpr std::size_t key_width = 19;            // of a configuration file
-constexpr std::size_t setting_start = 21;
 
 std::vector<std::string> lines_of(const Stage& stage, std::string_view path) {
-    try {
-        const FileText text = read_host_file(stage.host_path(path), std::string(path));
-        std::vector<std::string> lines;
-        for (LineReader reader(text.view()); !reader.at_end();) lines.emplace_back(reader.next());
-        return lines;
-    } catch (const FatalFailure& failure) {
-        throw Unmet(failure.what());
-    }
+    const FileText text = scenario::text_of(stage.host_path(path), to_utf8(path));
+    std::vector<std::string> lines;
+    for (LineReader reader(text.view()); !reader.at_end();) lines.emplace_back(reader.next());
+    return lines;
 }
 
 std::vector<std::string> cut(std::string_view line, char delimiter) {
@@ -55,8 +51,11 @@ const std::string& piece(const std::vector<std::string>& pieces, const std::stri
     return pieces[wanted - 1];
 }
 
+// What is written behind a verb, as it stands.
 std::string behind(std::string_view written, std::string_view verb) {
-    return std::string(trim(trim(written).substr(verb.size())));
+    const std::string_view rest = trim(trim(written).substr(verb.size()));
+    if (auto text = from_utf8(rest)) return *std::move(text);
+    throw Unmet("\"" + std::string(rest) + "\" holds a character that the code page lacks.");
 }
 
 const Field& seen_field(const Stage& stage, const std::string& path) {
@@ -83,20 +82,10 @@ Value grid_cell(const Stage& stage, const Words& words) {
     const Field& field = seen_field(stage, words[0]);
     if (field.kind() != FieldKind::grid) throw Unmet(words[0] + " is no grid.");
     const auto& grid = static_cast<const Grid&>(field);
-    const int row = scenario::number_in(words[1], "row");
-    const int column = scenario::number_in(words[2], "column");
-    if (row >= grid.rows() || column >= grid.columns())
-        throw Unmet(words[0] + " has no such cell.");
-    return {kind_in(grid, row), std::string(grid.cell(row, column))};
-}
-
-Value setting(const Stage& stage, const std::string& path, const std::string& key) {
-    for (const std::string& line : lines_of(stage, path)) {
-        if (trim(left(line, key_width)) == key) {
-            return {Value::Kind::text, line.substr(setting_start - 1)};
-        }
-    }
-    throw Unmet("\"" + path + "\" says nothing of " + key + ".");
+    const GridCell cell{scenario::number_in(words[1], "row"),
+                        scenario::number_in(words[2], "column")};
+    scenario::want_cell(grid, cell);
+    return {kind_in(grid, cell.row), std::string(grid.cell(cell.row, cell.column))};
 }
 
 Value number(std::size_t count) { return {Value::Kind::number, std::to_string(count)}; }
@@ -135,14 +124,13 @@ Value value_of(std::string_view written, const Stage& stage) {
         return words.size() == count && words.front() == verb;
     };
     if (words.empty()) throw Unmet("There is no name between the braces.");
-    if (words.front() == "room") return room(behind(written, "room "));
-    if (words.front() == "text") return {Value::Kind::text, behind(written, "text ")};
+    if (words.front() == "room") return room(behind(written, "room"));
+    if (words.front() == "text") return {Value::Kind::text, behind(written, "text")};
     if (is("cell", 4)) {
         const std::string line = piece(lines_of(stage, words[1]), words[2], "line");
         return {Value::Kind::text, piece(cut(line, '\t'), words[3], "cell")};
     }
     if (is("field", 4)) return load_file_field(stage, words);
-    if (is("setting", 3)) return setting(stage, words[1], words[2]);
     if (is("line", 3))
         return {Value::Kind::text, piece(lines_of(stage, words[1]), words[2], "line")};
     if (is("count", 3)) {

@@ -2,7 +2,6 @@
 // own: captions, cells, and what stands in files.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,7 +27,6 @@ struct Value {
 //   FIELD ROW COLUMN     a cell of a grid, from 0
 //   cell PATH LINE N     the Nth of the cells that tabs divide in a line of a file, both from 1
 //   field PATH ID N      the Nth field of the first line of a load file with that activity id
-//   setting PATH KEY     what a configuration file says under a key
 //   line PATH LINE       a whole line of a file
 //   count PATH LINE      how many fields a line of a load file has
 //   lines PATH           how many lines a file has

@@ -1,6 +1,5 @@
 #include "scenario/commands.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <map>
@@ -51,12 +50,8 @@ Step copy_step(const Arguments& arguments) {
     arguments.want(2);
     return always([from = host_file(arguments.text(0), arguments.folder()),
                    to = arguments.text(1)](Stage& stage) {
-        try {
-            const FileText text = read_host_file(from, host_system::utf8_of(from));
-            write_file(with_folders(stage, to), text.view(), to);
-        } catch (const FatalFailure& failure) {
-            throw Unmet(failure.what());
-        }
+        const FileText text = text_of(from, host_system::utf8_of(from));
+        write_file(with_folders(stage, to), text.view(), to);
     });
 }
 
@@ -161,6 +156,14 @@ Step step_of(const std::vector<std::string>& words, const fs::path& folder) {
     const auto& [verb, command] = *found;
     const Arguments arguments({words.begin() + 1, words.end()}, folder, command.usage);
     return command.maker(verb, arguments);
+}
+
+FileText text_of(const fs::path& file, const std::string& shown) {
+    try {
+        return read_host_file(file, shown);
+    } catch (const FatalFailure& failure) {
+        throw Unmet(failure.what());
+    }
 }
 
 fs::path host_file(const std::string& word, const fs::path& folder) {

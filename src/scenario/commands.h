@@ -17,6 +17,10 @@ Step step_of(const std::vector<std::string>& words, const std::filesystem::path&
 // A HOST word as a path of the machine.
 std::filesystem::path host_file(const std::string& word, const std::filesystem::path& folder);
 
+// The whole of a file of the host; `shown` is its name in a sentence, in UTF-8. Throws Unmet where
+// it cannot be read.
+FileText text_of(const std::filesystem::path& file, const std::string& shown);
+
 // Whether a path of the host is the root of a file system, or `drive_c`, the folder that stands for
 // that drive, or a folder around it. None of these is ever removed.
 bool holds_a_drive(const std::filesystem::path& path, const std::filesystem::path& drive_c);

@@ -1,5 +1,4 @@
 #include "platform/code_page.h"
-#include "platform/fatal_failure.h"
 #include "platform/files/host_system.h"
 #include "scenario/arguments.h"
 #include "scenario/commands.h"
@@ -13,14 +12,6 @@ namespace {
 namespace fs = std::filesystem;
 
 using Check = std::function<void(const fs::path& file, const std::string& shown)>;
-
-FileText text_of(const fs::path& file, const std::string& shown) {
-    try {
-        return read_host_file(file, shown);
-    } catch (const FatalFailure& failure) {
-        throw Unmet(failure.what());
-    }
-}
 
 void want(bool holds, const std::string& shown, const std::string& what) {
     if (!holds) throw Unmet("\"" + shown + "\" " + what);

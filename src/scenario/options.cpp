@@ -5,7 +5,6 @@
 #include <array>
 
 #include "platform/code_page.h"
-#include "platform/files/host_files.h"
 #include "platform/files/host_system.h"
 #include "scenario/scenario_error.h"
 #include "scenario/terminal.h"
@@ -50,7 +49,6 @@ Options options_of(std::vector<std::string> words) {
     pointers.push_back(nullptr);
     char** const argv = pointers.data();
     Options options;
-    options.home = home_folder();
     optind = 1;
     opterr = 0;
     for (int found = 0;

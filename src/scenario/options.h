@@ -13,7 +13,7 @@ struct Options {
     bool drawn = false;
     bool help = false;
     std::filesystem::path shots;
-    std::filesystem::path home;  // stands for drive `c:`
+    std::filesystem::path home;  // stands for drive `c:`; empty where none is named
     Variables variables;
     std::vector<std::string> secrets;  // names whose values are still to be asked for
     std::vector<std::filesystem::path> files;

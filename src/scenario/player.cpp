@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/code_page.h"
+#include "platform/files/host_system.h"
 #include "scenario/options.h"
 #include "scenario/scenario_error.h"
 #include "scenario/script.h"
@@ -96,6 +97,10 @@ std::unique_ptr<Front> undrawn_front(const Files& /*files*/) {
     return std::make_unique<UndrawnFront>();
 }
 
+FrontMaker no_drawn_front(const std::filesystem::path& /*shots*/) {
+    throw WrongLine("--drawn needs windows, and this program was built without.");
+}
+
 int run_player(int argc, char** argv, const DrawnFrontMaker& drawn_front_maker) {
     const Terminal terminal;
     Output output;
@@ -105,6 +110,7 @@ int run_player(int argc, char** argv, const DrawnFrontMaker& drawn_front_maker) 
             std::cout << usage() << '\n';
             return all_passed;
         }
+        if (options.home.empty()) options.home = host_system::drive_c();
         const FrontMaker make_front =
             options.drawn ? drawn_front_maker(options.shots) : undrawn_front;
         return play_all(std::move(options), make_front, output);

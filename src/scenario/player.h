@@ -16,6 +16,9 @@ std::unique_ptr<Front> undrawn_front(const Files& files);
 // A display that cannot be reached ends the process, and the toolkit says why.
 using DrawnFrontMaker = std::function<FrontMaker(const std::filesystem::path& shots)>;
 
+// Stands in for these in a program without windows: throws that WrongLine.
+FrontMaker no_drawn_front(const std::filesystem::path& shots);
+
 // Does what the command line says; returns the exit status.
 int run_player(int argc, char** argv, const DrawnFrontMaker& drawn_front_maker);
 

@@ -167,13 +167,12 @@ std::string Recording::word(std::string_view text, bool may_name_files, Used& us
 
 // Empty where a secret stands among the keys whose text would not be read as the keys that type it.
 std::string Recording::keys(const PressedKeys& keys, Used& used) const {
+    std::string typed;  // a zero, which no secret holds, stands for a key without a character
+    for (const Key& key : keys) typed += key.name == Key::Name::character ? key.character : '\0';
     std::string word;
     for (auto key = keys.begin(); key != keys.end();) {
-        std::string typed;
-        for (auto at = key; at != keys.end() && at->name == Key::Name::character; ++at) {
-            typed += at->character;
-        }
-        if (const Named* const secret = secret_at(typed)) {
+        const auto place = static_cast<std::size_t>(key - keys.begin());
+        if (const Named* const secret = secret_at(std::string_view(typed).substr(place))) {
             if (secret->value.find('{') != std::string::npos) return {};
             word += variable(secret->variable);
             used.insert(secret->variable);

@@ -20,25 +20,13 @@ class ScriptReader {
     ScriptReader(const Variables& variables, const std::vector<std::string>& secrets)
         : variables_(variables), secrets_(secrets) {}
 
-    void read_file(const fs::path& file) {
-        const std::string shown = host_system::utf8_of(file);
-        FileText text;
-        try {
-            text = read_host_file(file, shown);
-        } catch (const FatalFailure& failure) {
-            throw WrongLine(failure.what());
-        }
-        read_text(text.view(), file);
-    }
+    void read_file(const fs::path& file) { read_text(script_file(file).view(), file); }
 
     void read_text(std::string_view text, const fs::path& file) {
         open_files_.push_back(file.lexically_normal());
-        if (text.starts_with(byte_order_mark)) text.remove_prefix(byte_order_mark.size());
-        for (int number = 1; !text.empty(); ++number) {
-            std::string_view line = text.substr(0, text.find('\n'));
-            text.remove_prefix(std::min(line.size() + 1, text.size()));
-            if (line.ends_with('\r')) line.remove_suffix(1);
-            read_line(line, file, host_system::utf8_of(file) + ":" + std::to_string(number));
+        int number = 0;
+        for (const std::string_view line : script_lines(text)) {
+            read_line(line, file, host_system::utf8_of(file) + ":" + std::to_string(++number));
         }
         open_files_.pop_back();
     }
@@ -90,6 +78,26 @@ class ScriptReader {
 };
 
 }  // namespace
+
+FileText script_file(const fs::path& file) {
+    try {
+        return read_host_file(file, host_system::utf8_of(file));
+    } catch (const FatalFailure& failure) {
+        throw WrongLine(failure.what());
+    }
+}
+
+std::vector<std::string_view> script_lines(std::string_view text) {
+    if (text.starts_with(byte_order_mark)) text.remove_prefix(byte_order_mark.size());
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        lines.push_back(line);
+    }
+    return lines;
+}
 
 std::vector<Step> read_script(const fs::path& file, const Variables& variables,
                               const std::vector<std::string>& secrets) {

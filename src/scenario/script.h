@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files.h"
 #include "scenario/words.h"
 
 namespace brooklander::scenario {
@@ -27,6 +28,12 @@ struct Step {
     bool is_fatal_check = false;
     std::function<void(Stage&)> act;  // throws Unmet, or the program's FatalFailure
 };
+
+// A file that somebody wrote, whole. Throws WrongLine where it cannot be read.
+FileText script_file(const std::filesystem::path& file);
+
+// Its lines, as any editor ends them, without the mark that some begin a file with.
+std::vector<std::string_view> script_lines(std::string_view text);
 
 // All steps of a file, in order, with those of the files that it includes. Throws WrongLine with
 // the place before its sentence, for a file that cannot be read and for a line that is no command.

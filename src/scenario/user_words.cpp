@@ -53,17 +53,17 @@ void take_named_key(std::string_view& text, std::vector<Key>& keys) {
 }  // namespace
 
 std::size_t entry_index(const EntryList& list, std::string_view entry, int which) {
-    auto index = list.find(entry);
-    if (!index) throw Unmet(list.path() + " has no entry " + in_quotes(entry) + ".");
-    for (int passed = 1; passed < which; ++passed) {
-        do {
-            ++*index;
-        } while (*index < list.count() && list.entry(*index) != entry);
-        if (*index < list.count()) continue;
-        throw Unmet(list.path() + " has the entry " + in_quotes(entry) + " no " +
-                    std::to_string(which) + " times.");
+    const auto first = list.find(entry);
+    if (!first) throw Unmet(list.path() + " has no entry " + in_quotes(entry) + ".");
+    const auto begin = list.entries().begin();
+    const auto end = list.entries().end();
+    auto at = begin + static_cast<std::ptrdiff_t>(*first);
+    for (int passed = 1; passed < which && at != end; ++passed) {
+        at = std::find(at + 1, end, entry);
     }
-    return *index;
+    if (at != end) return static_cast<std::size_t>(at - begin);
+    throw Unmet(list.path() + " has the entry " + in_quotes(entry) + " no " +
+                std::to_string(which) + " times.");
 }
 
 void want_cell(const Grid& grid, GridCell cell) {

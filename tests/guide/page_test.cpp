@@ -102,6 +102,8 @@ TEST(PageOfTheGuide, FieldsAreHeldAgainstWhereTheyComeFrom) {
                  Unmet);
     EXPECT_THROW(body_of({"@fields load.txt A-1 pH", "| First | | |", "| Last | two | |"}), Unmet);
     EXPECT_THROW(body_of({"@fields load.txt A-2 pH"}), Unmet);
+    EXPECT_THROW(body_of({"@fields load.txt A-1 pH"}), Unmet);
+    EXPECT_THROW(body_of({"@fields load.txt A-1 pH", "", "Words.", "| First | one | |"}), Unmet);
 }
 
 TEST(PageOfTheGuide, APictureIsShownWhereOneWasTaken) {

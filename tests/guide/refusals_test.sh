@@ -37,6 +37,27 @@ is "a line that is no command is told before anything is played" \
 status 2" "$(told 'start' 'clik frmStart.cmdView')"
 is "a link that leads nowhere is told" "A link leads to nowhere, which is nowhere.
 status 1" "$(told '#| See [this](#nowhere).')"
+is "words are the program's letters, and no verb" '<p>At <tt>5 µg/l</tt>.</p>
+<p>Nothing: <i>(empty)</i></p>' "$(told '#| At {text 5 µg/l}.' '#|' '#| Nothing: {text}' >/dev/null
+  grep '^<p>' page)"
+is "a chapter may begin with the mark of its encoding" "status 0
+a page" "$(told $'\xEF\xBB\xBF#| # Help')"
+
+# The command line. Without a folder to play in, the user's own would be taken.
+usage="brooklander-guide [--drawn] [--shots FOLDER] --home FOLDER PAGE CHAPTER..."
+printf '#| # Help\n' >chapter.guide
+mkdir -p own/chapter
+for words in "" "page" "--help" "--home homes page" "page chapter.guide" \
+  "--home homes --with a=b page chapter.guide" "--home homes --secret a page chapter.guide"; do
+  rm -f page
+  # shellcheck disable=SC2086
+  said=$(HOME=$work/own "$maker" $words 2>&1 </dev/null)
+  is "no help is made by: $words" "2" "$?"
+  [[ -z $words ]] || is "and it says how it is written: $words" "$usage" "$said"
+  is "nor anything else: $words" "" "$(ls page 2>/dev/null)"
+done
+holds "nothing of the user's own is gone" "$([[ -d own/chapter ]] || echo gone)"
+
 is "a file that cannot be read is told" "status 1" "$(told '#| See {line c:\none.txt 1}.' | tail -n 1)"
 
 count

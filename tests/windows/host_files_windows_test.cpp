@@ -16,7 +16,7 @@ using test::Names;
 TEST_F(HostFileRules, PathsAreThoseOfTheSystemWhereNoFolderStandsForDriveC) {
     folder_.write("Lake.txt", "x");
     const std::string path = host_system::utf8_of(folder_.path() / "Lake.txt");
-    const HostFiles literal{home_folder()};
+    const HostFiles literal{host_system::drive_c()};
     EXPECT_EQ(literal.host_path(path).native(), fs::path(path).make_preferred().native());
     EXPECT_EQ(literal.read(path).view(), "x");
 }

@@ -13,6 +13,7 @@
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/windows.h"
 #include "platform/files/host_files.h"
+#include "platform/files/host_system.h"
 #include "program.h"
 #include "scenario/recorder.h"
 
@@ -25,7 +26,7 @@ int run(int argc, char** argv) {
     const auto application = make_application(argc, argv);
     QString untold = run_first_start(first_start_script());
     if (!untold.isEmpty()) std::cerr << untold.toStdString() << std::endl;
-    HostFiles files(home_folder());
+    HostFiles files(host_system::drive_c());
     OdbcDatabase database;
     HelpWindow help(files);
     Program program({files, database, help});

@@ -155,8 +155,7 @@ std::unique_ptr<OutputFile> HostFiles::open(std::string_view path, const char* m
     OpenFile file = open_file(host, mode);
     if (!file) {
         const std::error_code fault = last_error();
-        fail(to_utf8(path), "opened for writing",
-             is_folder(host) ? std::make_error_code(std::errc::is_a_directory) : fault);
+        fail(to_utf8(path), "opened for writing", fault);
     }
     return std::make_unique<HostOutputFile>(std::move(file), std::move(host), to_utf8(path));
 }
@@ -194,8 +193,6 @@ std::vector<std::string> HostFiles::files_in(std::string_view path,
 fs::path HostFiles::host_path(std::string_view path) const {
     return paths_.host(paths_.parse(path));
 }
-
-fs::path home_folder() { return host_system::drive_c(); }
 
 std::string cause_in_words(const std::error_code& cause) {
     return cause.default_error_condition().message();

@@ -36,10 +36,6 @@ class HostFiles : public Files {
     HostPaths paths_;
 };
 
-// The host folder of drive `c:` in the program as its users run it: the user's home, and on Windows
-// the drive itself.
-std::filesystem::path home_folder();
-
 // The whole of a host file, as Files::read() gives it; `shown` is its name in a failure's sentence,
 // in UTF-8.
 FileText read_host_file(const std::filesystem::path& file, const std::string& shown,

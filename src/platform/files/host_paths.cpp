@@ -1,6 +1,7 @@
 #include "platform/files/host_paths.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "platform/code_page.h"
@@ -42,6 +43,32 @@ void add_names(std::vector<std::string>& names, std::string_view path) {
     }
 }
 
+// The name in a folder that a name means, which must not be there as it is spelled.
+std::optional<fs::path> other_spelling(const fs::path& folder, const std::string& name) {
+    std::optional<fs::path> found;
+    std::error_code fault;
+    fs::directory_iterator entry(folder, fault);
+    for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
+        const fs::path candidate = entry->path().filename();
+        const std::string spelled = program_name(candidate);
+        if (spelled.empty() || !same_but_for_case(spelled, name)) continue;
+        if (!found || candidate < *found) found = candidate;
+    }
+    return found;
+}
+
+// The name in a folder that a name of the program means: another spelling that stands there, where
+// the host tells capitals apart, or else the name itself.
+fs::path spelling_of(const fs::path& folder, const std::string& name) {
+    fs::path spelled = host_system::path_of(to_utf8(name));
+    std::error_code ignored;
+    if (!host_system::tells_capitals_apart() ||
+        fs::exists(fs::symlink_status(folder / spelled, ignored))) {
+        return spelled;
+    }
+    return other_spelling(folder, name).value_or(std::move(spelled));
+}
+
 }  // namespace
 
 std::string ProgramPath::text() const {
@@ -81,7 +108,7 @@ ProgramPath HostPaths::parse(std::string_view path) const {
 
 fs::path HostPaths::host(const ProgramPath& path) const {
     fs::path host = path.drive == home_drive ? drive_c_ : host_system::root_of(path.drive);
-    for (const std::string& name : path.names) host /= host_system::spelling_of(host, name);
+    for (const std::string& name : path.names) host /= spelling_of(host, name);
     return host;
 }
 
@@ -92,8 +119,6 @@ std::vector<std::string> HostPaths::drives() const {
     for (const char letter : letters) drives.push_back({letter, ':'});
     return drives;
 }
-
-fs::path host_name(const std::string& name) { return host_system::path_of(to_utf8(name)); }
 
 std::string program_name(const fs::path& host_name) {
     std::string name = from_utf8(host_system::utf8_of(host_name)).value_or("");

@@ -46,9 +46,6 @@ class HostPaths {
     ProgramPath current_directory_;
 };
 
-// A name of the program as the host has it, spelled alike.
-std::filesystem::path host_name(const std::string& name);
-
 // A host name as the program spells it; an empty text when it cannot: when the code page lacks a
 // character of it, or when it holds one that no name may hold here.
 std::string program_name(const std::filesystem::path& host_name);

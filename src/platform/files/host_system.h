@@ -22,14 +22,14 @@ std::string other_drives();
 // The root of one of these.
 std::filesystem::path root_of(char drive);
 
-// The name in a folder that a name of the program means: another spelling that stands there, where
-// the host tells capitals apart, or else the name itself.
-std::filesystem::path spelling_of(const std::filesystem::path& folder, const std::string& name);
+// Whether the host takes two names that differ in capitals for two.
+bool tells_capitals_apart();
 
 // Whether the host leaves a folder out when it lists what is there.
 bool is_hidden(const std::filesystem::path& folder);
 
 // Opens a file as std::fopen() does, with `b` in the mode on every system: bytes are never touched.
+// errno says EISDIR of a folder that is to be written, on every system, too.
 std::FILE* open(const std::filesystem::path& file, const char* mode);
 
 // Removes a file, or a folder with all in it; what is not there is no failure. A link goes, and
@@ -39,7 +39,8 @@ std::error_code remove_tree(const std::filesystem::path& path);
 // Memory for a file's bytes.
 std::unique_ptr<char[]> memory_for_text(std::size_t size);
 
-// A path, or a part of one, in UTF-8; empty where the host's name is no text. And the way back.
+// A path, or a part of one, in UTF-8, and the way back. A name of the host that is no text gives
+// nothing on Windows, and elsewhere its bytes, which are no UTF-8 then.
 std::string utf8_of(const std::filesystem::path& path);
 std::filesystem::path path_of(std::string_view path);
 

@@ -1,33 +1,12 @@
 #include <sys/mman.h>
 
 #include <cstdlib>
-#include <optional>
 
-#include "platform/code_page.h"
-#include "platform/files/host_paths.h"
 #include "platform/files/host_system.h"
 
 namespace brooklander::host_system {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-// The name in a folder that a name means, which must not be there as it is spelled.
-std::optional<fs::path> other_spelling(const fs::path& folder, const std::string& name) {
-    std::optional<fs::path> found;
-    std::error_code fault;
-    fs::directory_iterator entry(folder, fault);
-    for (; !fault && entry != fs::directory_iterator(); entry.increment(fault)) {
-        const fs::path candidate = entry->path().filename();
-        const std::string spelled = program_name(candidate);
-        if (spelled.empty() || !same_but_for_case(spelled, name)) continue;
-        if (!found || candidate < *found) found = candidate;
-    }
-    return found;
-}
-
-}  // namespace
 
 fs::path drive_c() {
     const char* const home = std::getenv("HOME");
@@ -39,12 +18,7 @@ std::string other_drives() { return "z"; }
 
 fs::path root_of(char /*drive*/) { return "/"; }
 
-fs::path spelling_of(const fs::path& folder, const std::string& name) {
-    fs::path spelled = host_name(name);
-    std::error_code ignored;
-    if (fs::exists(fs::symlink_status(folder / spelled, ignored))) return spelled;
-    return other_spelling(folder, name).value_or(std::move(spelled));
-}
+bool tells_capitals_apart() { return true; }
 
 bool is_hidden(const fs::path& folder) { return folder.filename().native().front() == '.'; }
 

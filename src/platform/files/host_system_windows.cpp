@@ -1,8 +1,8 @@
 #include <windows.h>
 
+#include <cerrno>
 #include <vector>
 
-#include "platform/files/host_paths.h"
 #include "platform/files/host_system.h"
 
 // The functions of the wide API throughout: those for bytes would take names by the machine's own
@@ -28,10 +28,7 @@ fs::path root_of(char drive) {
     return fs::path(std::wstring{letter, L':', L'\\'});
 }
 
-// The system finds names without regard to case by itself.
-fs::path spelling_of(const fs::path& /*folder*/, const std::string& name) {
-    return host_name(name);
-}
+bool tells_capitals_apart() { return false; }
 
 bool is_hidden(const fs::path& folder) {
     const DWORD attributes = GetFileAttributesW(folder.c_str());
@@ -40,7 +37,15 @@ bool is_hidden(const fs::path& folder) {
 
 std::FILE* open(const fs::path& file, const char* mode) {
     const std::string_view letters = mode;
-    return _wfopen(file.c_str(), std::wstring(letters.begin(), letters.end()).c_str());
+    std::FILE* const opened =
+        _wfopen(file.c_str(), std::wstring(letters.begin(), letters.end()).c_str());
+    if (opened != nullptr) return opened;
+    const int fault = errno;
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    const bool is_folder =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    errno = is_folder ? EISDIR : fault;
+    return nullptr;
 }
 
 // By hand, since the library's own takes a link to a folder for the folder.
