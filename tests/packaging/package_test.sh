@@ -44,7 +44,7 @@ is "the workspace is the one of the build, with the help" "" \
 holds "the help has its pictures" "$(ls $share/samples/workspace/help/*.png 2>&1 >/dev/null)"
 is "the tools are there" "convert_folder first_start lay_down_workspace make_data_source play_tour" \
   "$(cd $share/tools && echo *)"
-for tool in $share/tools/*; do
+for tool in "$share"/tools/*; do
   is "${tool##*/} is that of the source tree" "" "$(cmp "$root/tools/${tool##*/}" "$tool" 2>&1)"
 done
 for program in brooklander brooklander-scenario; do
