@@ -20,10 +20,8 @@ inline void choose_sample(DrawnProgram& drawn) {
         drawn.folder.write(std::filesystem::path("brooklander") / list, "Total\r\nDissolved\r\n");
     }
     FrmCharSource& source = drawn.screens().frmCharSource;
+    drawn.log_on();
     drawn.act([&] {
-        drawn.start_screen().txtOracleID.type("jdoe");
-        drawn.start_screen().txtOraclePassWord.type("secret");
-        drawn.start_screen().cmdUIDok.press();
         drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
         drawn.screens().frmCharacteristicDetails.cmdSave.enable();
         for (Label* const file : {&source.lblFile, &drawn.screens().frmCharacteristics.lblFile,

@@ -5,19 +5,16 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 
+#include "desktop/at_the_keyboard.h"
 #include "desktop/characteristic_roads.h"
 
 namespace brooklander::desktop {
 namespace {
 
+using test::at_keyboard;
 using test::DrawnProgram;
-
-void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), key, with);
-    DrawnProgram::rest();
-}
-
-void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+using test::press;
+using test::type;
 
 // A letter with Alt presses its button for a moment, and so takes one.
 bool comes_true(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 2000); }
@@ -32,11 +29,6 @@ void pick(int entry) {
     for (int row = 0; row < entry; ++row) QTest::keyClick(entries, Qt::Key_Down);
     QTest::keyClick(entries, Qt::Key_Return);
     DrawnProgram::rest();
-}
-
-std::string at_keyboard() {
-    const QWidget* const widget = QApplication::focusWidget();
-    return widget == nullptr ? "nothing" : widget->objectName().toStdString();
 }
 
 void answer_with_oxygen(DrawnProgram& drawn) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QApplication>
+#include <QLabel>
 #include <QTest>
+#include <algorithm>
 
 #include "platform/desktop/job_menu.h"
 #include "platform/desktop/layouts.h"
@@ -28,6 +30,22 @@ struct DrawnProgram : TestProgram {
     static void rest() {
         QApplication::processEvents();
         QApplication::processEvents();
+    }
+
+    void log_on() {
+        act([this] {
+            start_screen().txtOracleID.type("jdoe");
+            start_screen().txtOraclePassWord.type("secret");
+            start_screen().cmdUIDok.press();
+        });
+    }
+
+    // Whether the foremost window says a sentence.
+    bool says(const char* sentence) {
+        const QList<QLabel*> labels = windows.foremost()->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [sentence](const QLabel* label) {
+            return label->isVisible() && label->text() == QLatin1String(sentence);
+        });
     }
 
     template <typename Widget = QWidget>

@@ -30,40 +30,40 @@ class FirstStart : public testing::Test {
     QTemporaryDir folder_;
 };
 
-TEST_F(FirstStart, of_a_program_that_is_not_installed_is_nothing) {
+TEST_F(FirstStart, OfAProgramThatIsNotInstalledIsNothing) {
     EXPECT_EQ(run_first_start(folder_.filePath(QStringLiteral("none"))), QString());
 }
 
-TEST_F(FirstStart, that_has_done_its_work_is_not_told) {
+TEST_F(FirstStart, ThatHasDoneItsWorkIsNotTold) {
     const QString made = folder_.filePath(QStringLiteral("made"));
     EXPECT_EQ(run_first_start(script("echo said; echo noise >&2; : >\"" + made.toUtf8() + "\"\n")),
               QString());
     EXPECT_TRUE(QFile::exists(made));
 }
 
-TEST_F(FirstStart, that_fails_is_told_in_its_own_words) {
+TEST_F(FirstStart, ThatFailsIsToldInItsOwnWords) {
     EXPECT_EQ(run_first_start(script("echo said\necho 'The lake is \xc3\xa0 sec.' >&2\nexit 1\n")),
               QString::fromUtf8("The lake is \xc3\xa0 sec."));
 }
 
-TEST_F(FirstStart, that_fails_without_a_word_is_told) {
+TEST_F(FirstStart, ThatFailsWithoutAWordIsTold) {
     const QString file = script("kill -9 $$\n");
     EXPECT_EQ(run_first_start(file), '"' + file + "\" has failed.");
 }
 
-TEST_F(FirstStart, that_cannot_be_run_is_told) {
+TEST_F(FirstStart, ThatCannotBeRunIsTold) {
     const QString file = script("exit 0\n", QFile::ReadOwner);
     const QString told = run_first_start(file);
     EXPECT_TRUE(told.startsWith('"' + file + "\" cannot be run: ")) << told.toStdString();
 }
 
-TEST_F(FirstStart, that_does_not_end_is_not_waited_for) {
+TEST_F(FirstStart, ThatDoesNotEndIsNotWaitedFor) {
     const QString file = script("exec sleep 60\n");
     EXPECT_EQ(run_first_start(file, std::chrono::milliseconds(50)),
               '"' + file + "\" has not ended in time.");
 }
 
-TEST_F(FirstStart, is_told_over_the_window_until_the_user_closes_it) {
+TEST_F(FirstStart, IsToldOverTheWindowUntilTheUserClosesIt) {
     QWidget window;
     window.show();
     tell_first_start(QStringLiteral("The lake is <b>dry</b>."), window);

@@ -70,17 +70,13 @@ constexpr const char* records =
 constexpr const char* spelled_records =
     "6/14/2001\t9:30:15 AM\t12.4\t7.9\r\n14-Jun-01\t9:45 PM\t12.5\r\n";
 
-void log_on(DrawnProgram& drawn) {
+void log_on_to_the_fens(DrawnProgram& drawn) {
     drawn.database.answers = answer_of_two_fens;
-    drawn.act([&] {
-        drawn.start_screen().txtOracleID.type("jdoe");
-        drawn.start_screen().txtOraclePassWord.type("secret");
-        drawn.start_screen().cmdUIDok.press();
-    });
+    drawn.log_on();
 }
 
 void open_logger(DrawnProgram& drawn) {
-    log_on(drawn);
+    log_on_to_the_fens(drawn);
     drawn.folder.write("data/mooring of the northern basin.txt", records);
     drawn.act([&] {
         drawn.start_screen().mnuImport.choose();
@@ -162,7 +158,7 @@ void enter_results(DrawnProgram& drawn) {
 }
 
 void open_taxa(DrawnProgram& drawn, bool with_names = true) {
-    log_on(drawn);
+    log_on_to_the_fens(drawn);
     FrmSubjectTaxon& taxon = drawn.screens().frmSubjectTaxon;
     drawn.act([&] {
         for (const char* const name : {"mayfly", "Water flea of the open water, egg-bearing"}) {
@@ -200,7 +196,7 @@ QueryResult answer_of_two_fens(const Query& query) {
 }
 
 void open_setup(DrawnProgram& drawn) {
-    log_on(drawn);
+    log_on_to_the_fens(drawn);
     drawn.act([&] {
         drawn.start_screen().mnuLogger.show();
         drawn.start_screen().mnuLogger.enable();
@@ -216,7 +212,7 @@ void choose_fen(DrawnProgram& drawn, int row) {
 }
 
 void open_portable(DrawnProgram& drawn) {
-    log_on(drawn);
+    log_on_to_the_fens(drawn);
     drawn.act([&] {
         drawn.start_screen().hide();
         drawn.screens().frmPortableDataLogger.show();

@@ -3,31 +3,19 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
 #include <QPushButton>
 
+#include "desktop/at_the_keyboard.h"
 #include "desktop/logger_roads.h"
 #include "platform/desktop/grid_widget.h"
 
 namespace brooklander::desktop {
 namespace {
 
+using test::at_keyboard;
 using test::DrawnProgram;
-
-void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), key, with);
-    DrawnProgram::rest();
-}
-
-void type(const char* text) {
-    QTest::keyClicks(QApplication::focusWidget(), text);
-    DrawnProgram::rest();
-}
-
-std::string at_keyboard() {
-    const QWidget* const widget = QApplication::focusWidget();
-    return widget == nullptr ? "nothing" : widget->objectName().toStdString();
-}
+using test::press;
+using test::type;
 
 struct Loggers : DrawnProgram {
     Loggers() {
@@ -37,14 +25,6 @@ struct Loggers : DrawnProgram {
     FrmDataLogger& setup() { return screens().frmDataLogger; }
     FrmPortableDataLogger& portable() { return screens().frmPortableDataLogger; }
     GridWidget& grid(Grid& field) { return *widget<GridWidget>(field); }
-
-    // Whether the foremost window says a sentence.
-    bool says(const char* sentence) {
-        for (const QLabel* const label : windows.foremost()->findChildren<QLabel*>()) {
-            if (label->isVisible() && label->text() == QLatin1String(sentence)) return true;
-        }
-        return false;
-    }
 };
 
 TEST(LoggerKeyboard, TheSetUpIsDoneFromTheOrganizationToTheFiles) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iostream>
 #include <random>
 
@@ -14,6 +15,7 @@
 #include "scenario/undrawn_front.h"
 #include "shared/place_lists.h"
 #include "support/temporary_folder.h"
+#include "support/workable_fields.h"
 
 namespace brooklander {
 namespace {
@@ -253,33 +255,12 @@ class Walk {
 
     // A field of a visible screen that a user can work; leaving the program is rare.
     Field* some_field() {
-        std::vector<Field*> usable;
-        for (Screen* const screen : undrawn_->screens().desk.screens()) {
-            for (Field* const field : screen->fields()) {
-                if (field->usable() && can_be_worked(*field)) usable.push_back(field);
-            }
-        }
+        std::vector<Field*> usable = test::workable_fields(undrawn_->screens());
+        const auto leaves =
+            std::find(usable.begin(), usable.end(), &undrawn_->screens().frmStart.cmdYes);
+        if (leaves != usable.end() && below(10) > 0) usable.erase(leaves);
         return usable.empty() ? nullptr
                               : usable[static_cast<std::size_t>(below(int(usable.size())))];
-    }
-
-    bool can_be_worked(const Field& field) {
-        const FrmStart& start = undrawn_->screens().frmStart;
-        if (&field == &start.Drive1 || &field == &start.mnuFiles) return false;
-        if (&field == &start.cmdYes && below(10) > 0) return false;
-        switch (field.kind()) {
-            case FieldKind::button:
-            case FieldKind::menu_entry:
-            case FieldKind::option:
-            case FieldKind::tick_box:
-            case FieldKind::text_box: return true;
-            case FieldKind::list:
-            case FieldKind::pick_list:
-            case FieldKind::folder_list:
-            case FieldKind::file_list: return static_cast<const EntryList&>(field).count() > 0;
-            case FieldKind::grid: return static_cast<const Grid&>(field).rows() > 0;
-            default: return false;
-        }
     }
 
     Act some_act(const Field& field) {

@@ -13,7 +13,7 @@
 #include "desktop/recorded_play.h"
 #include "platform/fatal_failure.h"
 #include "scenario/scenario_error.h"
-#include "shared/place_lists.h"
+#include "support/workable_fields.h"
 
 namespace brooklander {
 namespace {
@@ -73,9 +73,8 @@ scenario::Variables values_of(const Play& play) {
     return values;
 }
 
-Work record(const std::vector<SourceLine>& lines, bool drawn) {
-    Work work;
-    Play play(drawn);
+// Plays lines, and keeps of them what no recording holds.
+void play_recorded(const std::vector<SourceLine>& lines, Play& play, Work& work) {
     bool started = false;
     for (const SourceLine& line : lines) {
         const std::string verb = line.verb();
@@ -87,6 +86,12 @@ Work record(const std::vector<SourceLine>& lines, bool drawn) {
         started = started || verb == "start";
         play.play(line);
     }
+}
+
+Work record(const std::vector<SourceLine>& lines, bool drawn) {
+    Work work;
+    Play play(drawn);
+    play_recorded(lines, play, work);
     work.text = play.recording().text("lake.scn");
     work.values = values_of(play);
     work.outcome = play.outcome();
@@ -203,12 +208,10 @@ class Wanderer {
 
     // False when there is nothing to be done any more.
     bool step(Play& play) {
-        std::vector<Field*> usable;
-        for (Screen* const screen : play.screens().desk.screens()) {
-            for (Field* const field : screen->fields()) {
-                if (field->usable() && leads_on(play.screens(), *field)) usable.push_back(field);
-            }
-        }
+        std::vector<Field*> usable = test::workable_fields(play.screens());
+        // Not out of the program.
+        usable.erase(std::remove(usable.begin(), usable.end(), &play.screens().frmStart.cmdYes),
+                     usable.end());
         if (usable.empty()) return false;
         work(play.front(), *usable[static_cast<std::size_t>(below(int(usable.size())))]);
         return play.running();
@@ -216,26 +219,6 @@ class Wanderer {
 
   private:
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
-
-    // Not out of the program, nor away from its own drive; and a menu with entries is no entry.
-    static bool leads_on(const Screens& screens, const Field& field) {
-        const FrmStart& start = screens.frmStart;
-        if (&field == &start.cmdYes || &field == &start.Drive1 || &field == &start.mnuFiles) {
-            return false;
-        }
-        if (const auto* const list = dynamic_cast<const EntryList*>(&field)) {
-            return list->count() > 0;
-        }
-        if (const auto* const grid = dynamic_cast<const Grid*>(&field)) return grid->rows() > 0;
-        switch (field.kind()) {
-            case FieldKind::button:
-            case FieldKind::menu_entry:
-            case FieldKind::option:
-            case FieldKind::tick_box:
-            case FieldKind::text_box: return true;
-            default: return false;
-        }
-    }
 
     std::vector<Key> some_keys() {
         static constexpr std::array keys{
@@ -282,16 +265,7 @@ TEST_P(RandomWork, DoesTheSameAgain) {
                            (GetParam() % 2 == 0 ? "lake_viewed.scn" : "lake_columns.scn"));
     Work work;
     Play play(false);
-    bool started = false;
-    for (const SourceLine& line : road) {
-        if (!started && line.verb() != "start") work.before.push_back(line);
-        if (started && is_meddling(line.verb())) {
-            work.meanwhile.emplace_back(recorded_lines(play.recording().text("lake.scn")).size(),
-                                        line);
-        }
-        started = started || line.verb() == "start";
-        play.play(line);
-    }
+    play_recorded(road, play, work);
     // What ends the program leaves nothing to save; the walk is looked at as far as before it.
     std::size_t steps = 0;
     try {

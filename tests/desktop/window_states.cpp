@@ -12,16 +12,8 @@ constexpr const char* sample_table =
     "LL-01\t05/04/2021\t915\tLL21-001\t0.5\tRoe Richard\t\t11.0\t7.2\t9.8\r\n"
     "LL-02\t05/04/2021\t0945\t\t2.5\tDoe Jane\twind from the west, waves\t10.2\t<7.3\t\r\n";
 
-void log_on(DrawnProgram& drawn) {
-    drawn.act([&] {
-        drawn.start_screen().txtOracleID.type("jdoe");
-        drawn.start_screen().txtOraclePassWord.type("secret");
-        drawn.start_screen().cmdUIDok.press();
-    });
-}
-
 void choose_file(DrawnProgram& drawn) {
-    log_on(drawn);
+    drawn.log_on();
     drawn.folder.write("data/lake survey of a rather long name.txt", sample_table);
     drawn.act([&] {
         drawn.start_screen().mnuImport.choose();
@@ -53,6 +45,15 @@ void choose_columns(DrawnProgram& drawn) {
     });
 }
 
+void ask_for_characteristics(DrawnProgram& drawn) {
+    choose_file(drawn);
+    drawn.act([&] {
+        drawn.start_screen().chkPreferences.set_ticked(true);
+        drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
+        drawn.start_screen().cmdView.press();
+    });
+}
+
 Roads all_roads() {
     Roads all{
         {"start 1 logon", [](DrawnProgram&) {}},
@@ -66,12 +67,12 @@ Roads all_roads() {
         {"start 3 refused",
          [](DrawnProgram& drawn) {
              drawn.database.refuses = true;
-             log_on(drawn);
+             drawn.log_on();
          }},
-        {"start 4 logged on", log_on},
+        {"start 4 logged on", &DrawnProgram::log_on},
         {"start 5 exit and about",
          [](DrawnProgram& drawn) {
-             log_on(drawn);
+             drawn.log_on();
              drawn.act([&] {
                  drawn.start_screen().mnuExit.choose();
                  drawn.start_screen().mnuAbout.choose();
@@ -107,24 +108,11 @@ Roads all_roads() {
              choose_columns(drawn);
              drawn.act([&] { drawn.convert(1); });
          }},
-        {"import 8 characteristics",
-         [](DrawnProgram& drawn) {
-             choose_file(drawn);
-             drawn.act([&] {
-                 drawn.start_screen().chkPreferences.set_ticked(true);
-                 drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
-                 drawn.start_screen().cmdView.press();
-             });
-         }},
+        {"import 8 characteristics", ask_for_characteristics},
         {"import 9 characteristic column",
          [](DrawnProgram& drawn) {
-             choose_file(drawn);
-             drawn.act([&] {
-                 drawn.start_screen().chkPreferences.set_ticked(true);
-                 drawn.screens().frmPreferencesSampleOption.chkChar.set_ticked(true);
-                 drawn.start_screen().cmdView.press();
-                 drawn.import_screen().cmdCharYes.press();
-             });
+             ask_for_characteristics(drawn);
+             drawn.act([&] { drawn.import_screen().cmdCharYes.press(); });
          }},
     };
     for (const WizardRoad& road : wizard_roads()) all[road.name] = road.take;

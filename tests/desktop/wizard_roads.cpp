@@ -143,11 +143,7 @@ QueryResult answer_of_two_lakes(const Query& query) {
 
 void name_configuration(DrawnProgram& drawn) {
     drawn.database.answers = answer_of_two_lakes;
-    drawn.act([&] {
-        drawn.start_screen().txtOracleID.type("jdoe");
-        drawn.start_screen().txtOraclePassWord.type("secret");
-        drawn.start_screen().cmdUIDok.press();
-    });
+    drawn.log_on();
     drawn.act([&] { drawn.start_screen().mnuPreferences.choose(); });
     drawn.act([&] { drawn.screens().frmPreferences.optBrooklanderNew.choose(); });
     drawn.act([&] {

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "loggers/data_logger_results_screen.h"
 #include "support/test_screen.h"
 
 namespace brooklander {
@@ -81,6 +82,13 @@ TEST_F(LoggerRecords, ALineMuchWiderThanTheOthersLeavesThemAsTheyAre) {
                                            1'000 * std::string("Record Date,06-14-2001,\r\n"
                                                                "Result,001015,\r\n")
                                                        .size());
+}
+
+TEST(DataLoggerResults, TheWorkGridHasTwelveColumnsOfWhichTwoAreFixed) {
+    test::TestScreen test;
+    const FrmDataLoggerResults results(test.desk);
+    EXPECT_EQ(results.MSFlexLog.columns(), 12);
+    EXPECT_EQ(results.MSFlexLog.fixed_columns(), 2);
 }
 
 }  // namespace

@@ -42,7 +42,9 @@ is "the samples are those of the source tree" "" "$(diff -r -x CMakeLists.txt -x
 is "the workspace is the one of the build, with the help" "" \
   "$(diff -r "$build/workspace" $share/samples/workspace 2>&1)"
 holds "the help has its pictures" "$(ls $share/samples/workspace/help/*.png 2>&1 >/dev/null)"
-for tool in installed/usr/share/brooklander/tools/*; do
+is "the tools are there" "convert_folder first_start lay_down_workspace make_data_source play_tour" \
+  "$(cd $share/tools && echo *)"
+for tool in "$share"/tools/*; do
   is "${tool##*/} is that of the source tree" "" "$(cmp "$root/tools/${tool##*/}" "$tool" 2>&1)"
 done
 for program in brooklander brooklander-scenario; do
@@ -81,7 +83,7 @@ is "the player lays nothing down" "./none" "$(cd home && find . -mindepth 1)"
 rmdir home/none
 is "the first start says nothing" "" "$(start)"
 is "the first start lays down the workspace" "" \
-  "$(diff -r "$build/workspace" home/brooklander | grep -v "^Only in home/brooklander: ")"
+  "$(diff -r "$build/workspace" home/brooklander 2>&1 | grep -v "^Only in home/brooklander: ")"
 is "the first start lays down the sample table" "" \
   "$(cmp "$root/samples/lake.txt" home/brooklander/samples/lake.txt 2>&1)"
 is "the first start makes the data source" "Database=$work/home/brooklander/keldar.db" \

@@ -41,10 +41,11 @@ class RecorderTest : public testing::Test, protected test::TestProgram {
         return whole.substr(whole.find("\nstart\n") + 7);
     }
 
-    // The last lines, as many as there are line ends in `wanted`.
-    std::string tail(const std::string& wanted) {
+    // That the lines end in these.
+    void expect_last(const std::string& wanted) {
         const std::string all = lines();
-        return all.size() < wanted.size() ? all : all.substr(all.size() - wanted.size());
+        EXPECT_EQ(all.size() < wanted.size() ? all : all.substr(all.size() - wanted.size()),
+                  wanted);
     }
 
     Recorder recorder_{screens()};
@@ -83,12 +84,10 @@ TEST_F(RecorderTest, WhatStepsOfTheProgramDoIsNotRecorded) {
     log_on();
     go_to_columns_of("lake.txt");
     assign(import_screen().cmdStation, 0);
-    EXPECT_EQ(tail("click frmImportFileDisplay.cmdActivitySkip\n"
-                   "click frmImportFileDisplay.cmdStation\n"
-                   "cell frmImportFileDisplay.MSFlexKeldarIN 0 0\n"),
-              "click frmImportFileDisplay.cmdActivitySkip\n"
-              "click frmImportFileDisplay.cmdStation\n"
-              "cell frmImportFileDisplay.MSFlexKeldarIN 0 0\n");
+    expect_last(
+        "click frmImportFileDisplay.cmdActivitySkip\n"
+        "click frmImportFileDisplay.cmdStation\n"
+        "cell frmImportFileDisplay.MSFlexKeldarIN 0 0\n");
 }
 
 TEST_F(RecorderTest, ATriedPasswordIsWrittenNowhere) {
@@ -110,10 +109,9 @@ TEST_F(RecorderTest, AFailedLogonThatWasLeftAtThatIsRepeated) {
     log_on();
     start_screen().cmdOracleErrorOk.press();
     start_screen().mnuAbout.choose();
-    EXPECT_EQ(tail("click frmStart.cmdUIDok\nclick frmStart.cmdOracleErrorOk\n"
-                   "click frmStart.mnuAbout\n"),
-              "click frmStart.cmdUIDok\nclick frmStart.cmdOracleErrorOk\n"
-              "click frmStart.mnuAbout\n");
+    expect_last(
+        "click frmStart.cmdUIDok\nclick frmStart.cmdOracleErrorOk\n"
+        "click frmStart.mnuAbout\n");
 }
 
 TEST_F(RecorderTest, CorrectionsOfAPasswordAreNotWrittenEither) {
@@ -131,10 +129,9 @@ TEST_F(RecorderTest, CredentialsInOtherTextsGiveWayToTheirVariables) {
     start_screen().mnuImport.choose();
     select(start_screen().Dir1, "data of brenda");
     screens().frmPreferences.txtFileName.type("aForelle7$");
-    EXPECT_EQ(tail("select frmStart.Dir1 \"data of ${user}\"\n"
-                   "force type frmPreferences.txtFileName \"a${password}\\$\"\n"),
-              "select frmStart.Dir1 \"data of ${user}\"\n"
-              "force type frmPreferences.txtFileName \"a${password}\\$\"\n");
+    expect_last(
+        "select frmStart.Dir1 \"data of ${user}\"\n"
+        "force type frmPreferences.txtFileName \"a${password}\\$\"\n");
     EXPECT_EQ(text().find("brenda"), std::string::npos);
     EXPECT_EQ(text().find("Forelle7"), std::string::npos);
 }
@@ -146,8 +143,7 @@ TEST_F(RecorderTest, APasswordThatDidNotServeHasAVariableOfItsOwn) {
     database.refuses = false;
     log_on();
     screens().frmPreferences.txtFileName.type("Forolle7");
-    EXPECT_EQ(tail("type frmPreferences.txtFileName \"${password2}\"\n"),
-              "type frmPreferences.txtFileName \"${password2}\"\n");
+    expect_last("type frmPreferences.txtFileName \"${password2}\"\n");
     EXPECT_NE(text().find("--secret password2"), std::string::npos);
 }
 
@@ -197,8 +193,7 @@ TEST_F(RecorderTest, EachFileOfTheStartScreenIsAVariable) {
     import_screen().cmdConfirm.press();
     choose_folder();
     select(start_screen().lstImportFileBox, "pond.txt");
-    EXPECT_EQ(tail("select frmStart.lstImportFileBox \"${file2}\"\n"),
-              "select frmStart.lstImportFileBox \"${file2}\"\n");
+    expect_last("select frmStart.lstImportFileBox \"${file2}\"\n");
     EXPECT_NE(text().find("--with file=lake.txt --with file2=pond.txt"), std::string::npos);
 }
 
@@ -207,8 +202,7 @@ TEST_F(RecorderTest, OfFilesGoneThroughByTheArrowKeysTheLastOneCounts) {
     choose_folder();
     select(start_screen().lstImportFileBox, "lake.txt");
     select(start_screen().lstImportFileBox, "pond.txt");
-    EXPECT_EQ(tail("select frmStart.Dir1 data\nselect frmStart.lstImportFileBox \"${file}\"\n"),
-              "select frmStart.Dir1 data\nselect frmStart.lstImportFileBox \"${file}\"\n");
+    expect_last("select frmStart.Dir1 data\nselect frmStart.lstImportFileBox \"${file}\"\n");
     EXPECT_NE(text().find("--with file=pond.txt"), std::string::npos);
 }
 
@@ -244,8 +238,7 @@ TEST_F(RecorderTest, AFolderNamedLikeOneAboveItGoesByItsPath) {
     choose_folder();
     FolderList& folders = start_screen().Dir1;
     folders.click_entry(folders.count() - 1);
-    EXPECT_EQ(tail("select frmStart.Dir1 data\nselect frmStart.Dir1 c:\\data\\data\n"),
-              "select frmStart.Dir1 data\nselect frmStart.Dir1 c:\\data\\data\n");
+    expect_last("select frmStart.Dir1 data\nselect frmStart.Dir1 c:\\data\\data\n");
 }
 
 TEST_F(RecorderTest, MovesOfTheCurrentCellAreWrittenWhereTheyMatter) {

@@ -13,7 +13,11 @@ constexpr int settled = 20;  // files until caches and buffers have their size
 constexpr int first_result = 6;
 constexpr int columns = FrmImportFileDisplay::table_columns;
 
-}  // namespace
+// What the process holds of the machine.
+struct Footprint {
+    long memory = 0;  // resident, in KiB
+    long files = 0;   // open
+};
 
 Footprint footprint() {
     Footprint found;
@@ -29,6 +33,8 @@ Footprint footprint() {
     }
     return found;
 }
+
+}  // namespace
 
 void Soak::start() {
     act_([&] { program_.program.start(); });
@@ -125,6 +131,8 @@ void soak(Soak& soak, int count, long most_growth) {
     const Footprint late = footprint();
     std::cout << "after " << settled << " files " << early.memory << " KiB, after " << count << " "
               << late.memory << " KiB; open files " << early.files << " and " << late.files << "\n";
+    EXPECT_GT(early.memory, 0);
+    EXPECT_GT(early.files, 0);
     EXPECT_EQ(late.files, early.files);
 #ifndef BROOKLANDER_SANITIZED
     EXPECT_LE(late.memory, early.memory + most_growth);

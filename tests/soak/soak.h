@@ -10,15 +10,6 @@
 
 namespace brooklander::test {
 
-// What the process holds of the machine.
-struct Footprint {
-    long memory = 0;  // resident, in KiB
-    long files = 0;   // open
-};
-
-// From /proc; nothing where there is none.
-Footprint footprint();
-
 class Soak {
   public:
     // `act` does something as a step of the program.
@@ -47,7 +38,7 @@ class Soak {
 };
 
 // Converts so many files and compares what the process holds after file 20 with what it holds in
-// the end: not a file more, and no more memory than told, in KiB, where that can be measured.
+// the end: not a file more, and no more memory than told, in KiB. Wants /proc.
 void soak(Soak& soak, int count, long most_growth);
 
 }  // namespace brooklander::test

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fatal_failure.h"
 #include "platform/files/host_files.h"
+#include "support/failure_of.h"
 #include "support/temporary_folder.h"
 
 namespace brooklander::test {
@@ -20,17 +20,6 @@ class HostFileRules : public testing::Test {
         const auto file = files_.create(path);
         file->write(text);
         file->close();
-    }
-
-    // The sentence of the failure that a step ends in.
-    template <typename Step>
-    std::string failure_of(const Step& step) {
-        try {
-            step();
-        } catch (const FatalFailure& failure) {
-            return failure.what();
-        }
-        return "no failure";
     }
 
     TemporaryFolder folder_;

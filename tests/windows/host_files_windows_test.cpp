@@ -10,6 +10,7 @@ namespace brooklander {
 namespace {
 
 namespace fs = std::filesystem;
+using test::failure_of;
 using test::HostFileRules;
 using test::Names;
 
