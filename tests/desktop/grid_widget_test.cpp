@@ -259,6 +259,7 @@ TEST_F(DrawnGrid, AScreenReaderFindsEveryCell) {
     EXPECT_EQ(table.columnCount(), 3);
     EXPECT_EQ(table.cellAt(2, 1)->text(QAccessible::Name), "b2");
     EXPECT_EQ(table.columnDescription(1), "name");
+    EXPECT_EQ(table.rowDescription(0), "1");
     EXPECT_EQ(table.cellAt(3, 0), nullptr);
     click({2, 1});
     EXPECT_EQ(table.selectedCells().front()->text(QAccessible::Name), "b1");
@@ -268,6 +269,20 @@ TEST_F(DrawnGrid, AScreenReaderFindsEveryCell) {
     EXPECT_EQ(clicks_.back(), (GridCell{1, 2}));
     EXPECT_EQ(table.columnDescription(100000000), "");
     EXPECT_EQ(table.rowDescription(-1), "");
+}
+
+TEST_F(DrawnGrid, AScreenReaderSaysOfARowWhatItsHeadingSays) {
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    fill(3);
+    QAccessibleTableInterface& table =
+        *QAccessible::queryAccessibleInterface(widget_)->tableInterface();
+    widget_->name_row(1, QStringLiteral("Row ID:"));
+    EXPECT_EQ(table.rowDescription(0), "Row ID:");
+    EXPECT_EQ(table.rowDescription(1), "2");
+    widget_->drop_row_numbers();
+    EXPECT_EQ(table.rowDescription(0), "Row ID:");
+    EXPECT_EQ(table.rowDescription(1), "");
 }
 
 }  // namespace

@@ -92,6 +92,9 @@ class GridWidget : public QAbstractScrollArea {
     int shown_rows() const { return std::max(0, data_rows()); }  // in sight or not
     int shown_columns() const { return columns_; }
     QString heading_text(int column) const { return heading_of(column); }
+    QString row_heading_text(int row) const {  // of a row below the headings, from 0
+        return row_heading_of(row + fixed_rows_);
+    }
     int rows_in_view() const;  // the whole rows that fit
 
   protected:
