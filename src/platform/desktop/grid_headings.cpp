@@ -6,27 +6,32 @@
 
 namespace brooklander::desktop {
 
-void GridWidget::name_column(int column, const QString& name) {
-    column_names_[column] = name;
-    follow();
+bool HeadingNames::set(int place, const QString& name) {
+    if (at(place) == name) return false;
+    if (name.isEmpty()) {
+        names_.erase(place);
+    } else {
+        names_[place] = name;
+    }
+    return true;
+}
+
+QString HeadingNames::at(int place) const {
+    const auto found = names_.find(place);
+    return found == names_.end() ? QString() : found->second;
+}
+
+void GridWidget::name_columns(int first, const QStringList& names) {
+    bool changed = false;
+    for (const QString& name : names) changed = column_names_.set(first++, name) || changed;
+    if (changed) follow();
 }
 
 void GridWidget::name_row(int row, const QString& name) {
-    row_names_[row] = name;
-    follow();
+    if (row_names_.set(row, name)) follow();
 }
 
 void GridWidget::drop_row_numbers() { numbers_rows_ = false; }
-
-QString GridWidget::column_name(int column) const {
-    const auto found = column_names_.find(column);
-    return found == column_names_.end() ? QString() : found->second;
-}
-
-QString GridWidget::row_name(int row) const {
-    const auto found = row_names_.find(row);
-    return found == row_names_.end() ? QString() : found->second;
-}
 
 // A little smaller than the cells', so that more of a caption fits.
 QFont GridWidget::caption_font() const {
@@ -57,7 +62,7 @@ QString GridWidget::row_heading_of(int row) const {
 int GridWidget::width_of_row_headings() const {
     int width =
         numbers_rows_ ? fontMetrics().horizontalAdvance(QString::number(std::max(1, rows_))) : 0;
-    for (const auto& [row, name] : row_names_) {
+    for (const auto& [row, name] : row_names_.all()) {
         width = std::max(width, fontMetrics().horizontalAdvance(name));
     }
     return width == 0 ? 0 : width + 2 * cell_margin;

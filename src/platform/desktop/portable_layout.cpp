@@ -78,10 +78,11 @@ GridWidget* results_grid(Portable& portable, Draw& draw) {
     draw.name_row(results, 0, portable.lblRowId);
     draw.name_column(results, 0, portable.lblResultLineColumn);
     draw.name_column(results, Portable::label_column, portable.lblResultLabelColumn);
+    QStringList names;
     for (int column = Portable::first_result_column; column < Portable::result_columns; ++column) {
-        const int number = column - Portable::first_result_column + 1;
-        results->name_column(column, QStringLiteral("Result %1").arg(number));
+        names.push_back(QStringLiteral("Result %1").arg(names.size() + 1));
     }
+    results->name_columns(Portable::first_result_column, names);
     return results;
 }
 
