@@ -88,16 +88,19 @@ Card* log_sheet(Results& results, Draw& draw) {
     GridWidget* const log = draw.grid(results.MSFlexLog, QStringLiteral("Converted records"));
     log->use_all_width();
     log->set_empty_text(QStringLiteral("The records stand here once the file is converted."));
+    const auto result = [](int number) { return QStringLiteral("Result %1").arg(number); };
+    constexpr int first = Results::first_result_column;
     draw.name_column(log, 0, results.lblRowId, QStringLiteral("Date"));
     draw.name_column(log, 1, results.lblDisplayName, QStringLiteral("Time"));
-    draw.name_column(log, 2, results.lblUnits, QStringLiteral("Result 1"));
-    draw.name_column(log, 3, results.lblResult, QStringLiteral("Result 2"));
-    const auto name_others = [&results, log] {
-        for (int column = 4; column < results.MSFlexLog.columns(); ++column) {
-            log->name_column(column, results.lblResult.visible()
-                                         ? QString()
-                                         : QStringLiteral("Result %1").arg(column - 1));
+    draw.name_column(log, first, results.lblUnits, result(1));
+    draw.name_column(log, first + 1, results.lblResult, result(2));
+    // Behind the labels there are only names.
+    const auto name_others = [&results, log, result] {
+        QStringList names;
+        for (int number = 3; first + number <= results.MSFlexLog.columns(); ++number) {
+            names.push_back(results.lblResult.visible() ? QString() : result(number));
         }
+        log->name_columns(first + 2, names);
     };
     results.lblResult.observe(name_others);
     name_others();
