@@ -138,6 +138,7 @@ class GridWidget : public QAbstractScrollArea {
         return lefts_[std::size_t(column) + 1] - lefts_[std::size_t(column)];
     }
     int kept_width() const;  // of the first column while it stays; 0 otherwise
+    int widest_kept() const { return (viewport()->width() - row_heading_) / 2; }
     bool is_kept(int column) const { return column == 0 && kept_width() > 0; }
     // Where the columns begin that are scrolled.
     int scrolled_left() const { return row_heading_ + kept_width(); }
