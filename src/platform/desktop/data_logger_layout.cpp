@@ -71,11 +71,8 @@ QVBoxLayout* contents(FrmDataLogger& logger, Card* card, Draw& draw) {
     draw.name_column(list, 1, logger.lblDisplayNameColumn);
     draw.name_column(list, 2, logger.lblUnitsColumn);
     draw.name_column(list, 3, logger.lblFractionColumn);
-    const auto tell = [&logger, waiting] {
-        waiting->setVisible(!logger.MSHFlexContents.visible());
-    };
-    logger.MSHFlexContents.observe(tell);
-    tell();
+    tell_of(waiting, {&logger.MSHFlexContents},
+            [&logger, waiting] { waiting->setVisible(!logger.MSHFlexContents.visible()); });
     waiting->setAlignment(Qt::AlignTop);
     column->addWidget(waiting, 1);
     column->addWidget(list, 1);

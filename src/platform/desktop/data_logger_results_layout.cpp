@@ -95,15 +95,13 @@ Card* log_sheet(Results& results, Draw& draw) {
     draw.name_column(log, first, results.lblUnits, result(1));
     draw.name_column(log, first + 1, results.lblResult, result(2));
     // Behind the labels there are only names.
-    const auto name_others = [&results, log, result] {
+    tell_of(log, {&results.lblResult}, [&results, log, result] {
         QStringList names;
         for (int number = 3; first + number <= results.MSFlexLog.columns(); ++number) {
             names.push_back(results.lblResult.visible() ? QString() : result(number));
         }
         log->name_columns(first + 2, names);
-    };
-    results.lblResult.observe(name_others);
-    name_others();
+    });
     sheet->content()->addWidget(log, 1);
     return sheet;
 }

@@ -182,9 +182,8 @@ Card* pick_card(const Picked& picked, Draw& draw) {
     if (picked.selected.visible()) add_selected(line, picked.selected, card, draw);
     line->addStretch();
     QLabel* const empty = draw.text(QLatin1String(picked.empty), card);
-    const auto tell = [&entries = picked.list, empty] { empty->setVisible(entries.count() == 0); };
-    picked.list.observe(tell);
-    tell();
+    tell_of(empty, {&picked.list},
+            [&entries = picked.list, empty] { empty->setVisible(entries.count() == 0); });
     card->content()->addLayout(line);
     card->content()->addWidget(empty);
     card->content()->addLayout(for_all(picked.sentence, picked.yes, draw));
@@ -231,17 +230,12 @@ Card* no_panel_sheet(Details& details, Draw& draw) {
                        "have it, or Yes for all."),
         sheet));
     sheet->content()->addStretch();
-    const auto tell = [&details, sheet] {
-        const bool open = details.frameProcedure.visible() ||
-                          std::any_of(detail_choices.begin(), detail_choices.end(),
-                                      [&details](const DetailChoice& choice) {
-                                          return (details.*choice.panel).visible();
-                                      });
-        sheet->setVisible(!open);
-    };
-    details.frameProcedure.observe(tell);
-    for (const DetailChoice& choice : detail_choices) (details.*choice.panel).observe(tell);
-    tell();
+    std::vector<Field*> panels{&details.frameProcedure};
+    for (const DetailChoice& choice : detail_choices) panels.push_back(&(details.*choice.panel));
+    tell_of(sheet, panels, [panels, sheet] {
+        sheet->setVisible(std::none_of(panels.begin(), panels.end(),
+                                       [](const Field* panel) { return panel->visible(); }));
+    });
     return sheet;
 }
 

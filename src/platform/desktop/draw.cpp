@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "platform/desktop/theme.h"
 #include "platform/desktop/windows.h"
@@ -180,18 +181,16 @@ QLabel* Draw::still_needed(Button& button, const std::vector<Needed>& needed,
                            const QString& otherwise) {
     QLabel* const note = text(QString(), parent_of(button));
     note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    // The fields outlive the note and go on telling of their changes.
-    const auto tell = std::make_shared<const std::function<void()>>(
-        [widget = QPointer<QLabel>(note), &button, needed, otherwise] {
-            if (widget) widget->setText(sentence_of(button, needed, otherwise));
-        });
-    const auto watch = [&tell](Field& field) { field.observe([tell] { (*tell)(); }); };
-    watch(button);
+    std::vector<Field*> fields{&button};
     for (const Needed& each : needed) {
-        watch(each.value);
-        for (Field* at = &each.chosen_from; at != nullptr; at = at->container()) watch(*at);
+        fields.push_back(&each.value);
+        for (Field* at = &each.chosen_from; at != nullptr; at = at->container()) {
+            fields.push_back(at);
+        }
     }
-    (*tell)();
+    tell_of(note, fields, [note, &button, needed, otherwise] {
+        note->setText(sentence_of(button, needed, otherwise));
+    });
     return note;
 }
 
@@ -267,6 +266,18 @@ void share_while_shown(QBoxLayout* layout, int item, int share,
 
 void there_while_shown(QWidget* card, std::initializer_list<QWidget*> widgets) {
     new AnyShown(widgets, [card](bool any) { card->setVisible(any); });
+}
+
+void tell_of(QWidget* told, const std::vector<Field*>& fields, std::function<void()> tell) {
+    // The fields outlive the widget and go on telling of their changes.
+    const auto tell_while_there = std::make_shared<const std::function<void()>>(
+        [widget = QPointer<QWidget>(told), tell = std::move(tell)] {
+            if (widget) tell();
+        });
+    for (Field* const field : fields) {
+        field->observe([tell_while_there] { (*tell_while_there)(); });
+    }
+    (*tell_while_there)();
 }
 
 void give_keyboard(QWidget* control) {

@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QString>
+#include <functional>
 #include <initializer_list>
 #include <vector>
 
@@ -124,6 +125,10 @@ void share_while_shown(QBoxLayout* layout, int item, int share,
 
 // Shows a card that no panel stands for as long as one of the widgets on it is there.
 void there_while_shown(QWidget* card, std::initializer_list<QWidget*> widgets);
+
+// Tells something of these fields, on this widget or another that goes with it: now, and whenever
+// one of the fields changes while the widget is there.
+void tell_of(QWidget* told, const std::vector<Field*>& fields, std::function<void()> tell);
 
 // Gives the keyboard to a control that can take it.
 void give_keyboard(QWidget* control);

@@ -101,7 +101,7 @@ void add_category(Display& display, const Category& category, int number, QGridL
         draw.button(display.*category.button, category_letters[static_cast<std::size_t>(number)]);
     if (category.required) button->setFont(font_larger_by(0, QFont::Bold));
     mark(*button, "category");
-    display.lblSelectedCategory.observe([&display, &category, button] {
+    tell_of(button, {&display.lblSelectedCategory}, [&display, &category, button] {
         set_mark(*button, "active", display.lblSelectedCategory.text() == category.text);
     });
     button->setMinimumWidth(button->fontMetrics().averageCharWidth() * 21);

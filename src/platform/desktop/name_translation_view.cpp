@@ -104,11 +104,9 @@ Card* search_sheet(NameTranslation& translation, const TranslationParts& parts, 
     controls.search = draw.button(translation.cmdDisplay, 'S');
     QLabel* const before =
         draw.text(QStringLiteral("Select a name in the list to search for it."), sheet);
-    const auto tell = [&options = translation.frameOptions, before] {
+    tell_of(before, {&translation.frameOptions}, [&options = translation.frameOptions, before] {
         before->setVisible(!options.visible());
-    };
-    translation.frameOptions.observe(tell);
-    tell();
+    });
     sheet->content()->addWidget(before);
     sheet->content()->addWidget(search);
     sheet->content()->addLayout(row({controls.search}, Side::right));
@@ -130,9 +128,7 @@ Card* match_sheet(NameTranslation& translation, Controls& controls, Draw& draw) 
         before->setVisible(empty && !searched);
         none->setVisible(empty && searched);
     };
-    translation.frameMatch.observe(tell);
-    translation.cmbCharacteristics.observe(tell);
-    tell();
+    tell_of(sheet, {&translation.frameMatch, &translation.cmbCharacteristics}, tell);
 
     sheet->content()->addWidget(match);
     sheet->content()->addWidget(before);
