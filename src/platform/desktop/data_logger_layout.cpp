@@ -52,7 +52,7 @@ Card* installation_card(FrmDataLogger& logger, QPushButton*& go_on, Draw& draw) 
     QHBoxLayout* const line = foot({}, note, go_on);
     line->addStrut(go_on->sizeHint().height());
     card->content()->addLayout(line);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 

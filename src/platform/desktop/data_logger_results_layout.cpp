@@ -112,7 +112,7 @@ void lay_out_data_logger_results(FrmDataLoggerResults& results, Draw& draw) {
     QVBoxLayout* const page = draw.window().page();
     page->addWidget(draw.title());
     Card* const warning = draw.card(results.frameWarning);
-    warning->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(warning);
     page->addWidget(warning);
     auto* const upper = new QHBoxLayout;
     upper->setSpacing(between_cards);

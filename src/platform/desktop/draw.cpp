@@ -294,6 +294,10 @@ void keep_width(QWidget* widget, int letters) {
     widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
 }
 
+void keep_height(QWidget* widget) {
+    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
 namespace {
 
 void retain_place(QWidget* widget, bool retain) {

@@ -140,6 +140,9 @@ void lead_on(QPushButton* pressed, QWidget* control);
 // its texts need.
 void keep_width(QWidget* widget, int letters);
 
+// Gives a widget no more height than its texts need.
+void keep_height(QWidget* widget);
+
 // Keeps a widget's place free while it is hidden, so that nothing beside it jumps.
 void keep_place(QWidget* widget);
 

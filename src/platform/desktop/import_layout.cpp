@@ -52,7 +52,7 @@ QHBoxLayout* files_line(Display& display, Draw& draw) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
     for (Card* const card : {file, configuration, vox}) {
-        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        keep_height(card);
         line->addWidget(card, 1);
     }
     return line;
@@ -287,7 +287,7 @@ Card* table_card(Display& display, Draw& draw) {
 QHBoxLayout* of_readable_width(QWidget* card) {
     constexpr int widest_in_letters = 170;
     card->setMaximumWidth(card->fontMetrics().averageCharWidth() * widest_in_letters);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     auto* const line = new QHBoxLayout;
     line->addWidget(card, 1);
     line->addStretch();

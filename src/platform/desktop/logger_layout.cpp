@@ -132,7 +132,7 @@ void lay_out_logger(FrmLogger& logger, Draw& draw) {
     QVBoxLayout* const page = draw.window().page();
     page->addWidget(draw.title());
     const auto add = [page](Card* card) {
-        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        keep_height(card);
         page->addWidget(card);
     };
     add(file_sheet(logger, draw));

@@ -57,7 +57,7 @@ Card* converted_card(FrmLoggerResults& results, Draw& draw) {
     QLabel* const note =
         draw.still_needed(results.cmdContinue, {}, QStringLiteral("Choose what comes next."));
     card->content()->addLayout(foot({another, quit}, note, draw.filled(results.cmdContinue, 'C')));
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     draw.window().asks(card, another, nullptr);
     return card;
 }

@@ -35,7 +35,7 @@ Card* display_card(Portable& portable, Draw& draw) {
     add(portable.lblStartDateCaption, portable.lblStartDate);
     add(portable.lblStartTimeCaption, portable.lblStartTime);
     card->content()->addLayout(form);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 
@@ -50,7 +50,7 @@ Card* lines_card(Portable& portable, QPushButton*& go_on, Draw& draw) {
         {{portable.txtLines, portable.txtLines, QStringLiteral("number of data lines")}});
     go_on = draw.filled(portable.cmdContinue, 'C');
     card->content()->addLayout(foot({caption, box}, note, go_on));
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 
@@ -152,7 +152,7 @@ void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
     auto* const after = new QHBoxLayout;
     after->setSpacing(between_cards);
     for (Card* const card : {enter_more_card(portable, draw), more_data_card(portable, draw)}) {
-        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        keep_height(card);
         after->addWidget(card, 1);
     }
     page->addLayout(after);

@@ -37,7 +37,7 @@ Card* display_card(Samples& samples, Draw& draw) {
     whole->addLayout(right, 1);
     whole->addLayout(answers);
     card->content()->addLayout(whole);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 

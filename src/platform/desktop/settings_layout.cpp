@@ -56,7 +56,7 @@ Card* trip_options_card(Settings& settings, Draw& draw) {
     Card* const message = draw.section(settings.frameTripMessage);
     message->title()->setFont(font_larger_by(0));
     card->content()->addWidget(message);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 

@@ -12,7 +12,7 @@ void add_named_file(Card* card, QLabel* caption, Label& name, const QString& spo
     card->head()->setStretch(0, 0);
     card->head()->addWidget(caption);
     card->head()->addWidget(draw.value(name, spoken), 1);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     draw.window().page()->addWidget(draw.title());
     draw.window().page()->addWidget(card);
 }
