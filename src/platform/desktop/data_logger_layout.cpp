@@ -27,8 +27,7 @@ Card* organization_card(FrmDataLogger& logger, Draw& draw) {
     return card;
 }
 
-// What its button leads to comes from the caller.
-Card* installation_card(FrmDataLogger& logger, QPushButton*& go_on, Draw& draw) {
+Card* installation_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameInstallation);
     QLabel* const installation = draw.caption(logger.lblInstallationCaption, 'I');
     QLabel* const period = draw.caption(logger.lblPeriodCaption, 'P');
@@ -46,7 +45,7 @@ Card* installation_card(FrmDataLogger& logger, QPushButton*& go_on, Draw& draw) 
         {{logger.txtInstallationID, logger.txtInstallationID, QStringLiteral("installation ID")},
          {logger.txtOperatingPeriod, logger.txtOperatingPeriod,
           QStringLiteral("operating period")}});
-    go_on = draw.filled(logger.cmdCharContinue, 'n');
+    QPushButton* const go_on = draw.filled(logger.cmdCharContinue, 'n');
     // The button comes up where the note has stood, in a line of the same height.
     leave_no_place(go_on);
     QHBoxLayout* const line = foot({}, note, go_on);
@@ -79,9 +78,9 @@ QVBoxLayout* contents(FrmDataLogger& logger, Card* card, Draw& draw) {
     return column;
 }
 
-Card* group_card(FrmDataLogger& logger, GridWidget*& groups, Draw& draw) {
+Card* group_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameCharacteristicGroup);
-    groups = draw.choices(
+    GridWidget* const groups = draw.choices(
         logger.MSHFlexGroups, shown(logger.frameCharacteristicGroup.text()),
         {.waiting = QStringLiteral("The groups of the organization are listed here."),
          .none = QStringLiteral("This organization has no groups for data loggers in KELDAR.")});
@@ -103,17 +102,15 @@ Card* group_card(FrmDataLogger& logger, GridWidget*& groups, Draw& draw) {
 
 // The organization, and below it what is typed; the groups come up beside both.
 void lay_out_data_logger(FrmDataLogger& logger, Draw& draw) {
-    QPushButton* to_groups = nullptr;
-    GridWidget* groups = nullptr;
     auto* const left = new QVBoxLayout;
     left->setSpacing(between_cards);
     left->addWidget(organization_card(logger, draw), 1);
-    left->addWidget(installation_card(logger, to_groups, draw));
+    left->addWidget(installation_card(logger, draw));
     auto* const whole = new QHBoxLayout;
     whole->setSpacing(between_cards);
     whole->addLayout(left, 1);
-    whole->addWidget(group_card(logger, groups, draw), 1);
-    lead_on(to_groups, groups);
+    whole->addWidget(group_card(logger, draw), 1);
+    draw.lead_on(logger.cmdCharContinue, logger.MSHFlexGroups);
     draw.window().page()->addWidget(draw.title());
     draw.window().page()->addLayout(whole, 1);
 }

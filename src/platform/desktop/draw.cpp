@@ -198,6 +198,12 @@ void Draw::begins_in(const Panel& panel, QWidget* control) {
     window_.begins(windows_.view_of(panel)->widget(), control);
 }
 
+void Draw::lead_on(const Button& pressed, const Field& to) {
+    auto* const button = static_cast<QPushButton*>(widget_of(pressed));
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [control = widget_of(to)] { give_keyboard(control); });
+}
+
 QWidget* Draw::widget_of(const Field& field) const { return windows_.view_of(field)->widget(); }
 
 QLabel* Draw::title() {
@@ -282,11 +288,6 @@ void tell_of(QWidget* told, const std::vector<Field*>& fields, std::function<voi
 
 void give_keyboard(QWidget* control) {
     if (control->isVisible() && control->isEnabled()) control->setFocus(Qt::OtherFocusReason);
-}
-
-void lead_on(QPushButton* pressed, QWidget* control) {
-    QObject::connect(pressed, &QPushButton::clicked, pressed,
-                     [control] { give_keyboard(control); });
 }
 
 void keep_width(QWidget* widget, int letters) {

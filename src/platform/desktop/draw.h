@@ -96,6 +96,10 @@ class Draw {
     // Where the keyboard goes when a panel that is drawn already comes up.
     void begins_in(const Panel& panel, QWidget* control);
 
+    // Gives the keyboard on to a field when a button has been pressed; the step has run by then.
+    // Both are drawn already.
+    void lead_on(const Button& pressed, const Field& to);
+
     // The screen's title, above its cards.
     QLabel* title();
 
@@ -132,9 +136,6 @@ void tell_of(QWidget* told, const std::vector<Field*>& fields, std::function<voi
 
 // Gives the keyboard to a control that can take it.
 void give_keyboard(QWidget* control);
-
-// Gives the keyboard on to a control when a button has been pressed; the step has run by then.
-void lead_on(QPushButton* pressed, QWidget* control);
 
 // Gives a widget so many letters of its own font, so that it grows with it, and no more height than
 // its texts need.

@@ -52,12 +52,11 @@ Card* transports(Options& options, Draw& draw) {
 }
 
 // Comes before the panels, and the keyboard begins here.
-QHBoxLayout* depth_unit(Options& options, QCheckBox*& first, Draw& draw) {
+QHBoxLayout* depth_unit(Options& options, Draw& draw) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(inside_card);
     line->addWidget(draw.caption(options.lblDepthCaption));
-    first = draw.tick_box(options.chkFeet, 'F');
-    line->addWidget(first);
+    line->addWidget(draw.tick_box(options.chkFeet, 'F'));
     line->addWidget(draw.tick_box(options.chkMeters, 'M'));
     line->addWidget(draw.value(options.lblDepthUnits, shown(options.lblDepthCaption.text())), 1);
     return line;
@@ -71,8 +70,7 @@ void lay_out_options(FrmPreferencesSampleOption& options, Draw& draw) {
     Card* const card = draw.sheet();
     QVBoxLayout* const content = card->content();
     content->setSpacing(inside_card);
-    QCheckBox* first = nullptr;
-    content->addLayout(depth_unit(options, first, draw));
+    content->addLayout(depth_unit(options, draw));
     // It holds nothing: it is drawn as a line above the panels with which it comes.
     Card* const line = draw.section(options.frameSampleSpecifications);
     mark(*line, "rule");
@@ -84,7 +82,7 @@ void lay_out_options(FrmPreferencesSampleOption& options, Draw& draw) {
     right->setSpacing(inside_card);
     lists->setSpacing(inside_card);
     lists->addWidget(projects(options, draw), 1);
-    draw.begins_in(options.FrameProject, first);
+    draw.begins_in(options.FrameProject, draw.widget_of(options.chkFeet));
     right->addWidget(persons(options, draw), 1);
     right->addWidget(transports(options, draw), 1);
     lists->addLayout(right, 1);

@@ -39,7 +39,7 @@ Card* display_card(Portable& portable, Draw& draw) {
     return card;
 }
 
-Card* lines_card(Portable& portable, QPushButton*& go_on, Draw& draw) {
+Card* lines_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameLines);
     QLabel* const caption = draw.caption(portable.lblLines, 'D');
     caption->setWordWrap(false);
@@ -48,15 +48,15 @@ Card* lines_card(Portable& portable, QPushButton*& go_on, Draw& draw) {
     QLabel* const note = draw.still_needed(
         portable.cmdContinue,
         {{portable.txtLines, portable.txtLines, QStringLiteral("number of data lines")}});
-    go_on = draw.filled(portable.cmdContinue, 'C');
-    card->content()->addLayout(foot({caption, box}, note, go_on));
+    card->content()->addLayout(foot({caption, box}, note, draw.filled(portable.cmdContinue, 'C')));
     keep_height(card);
     return card;
 }
 
-Card* labels_card(Portable& portable, GridWidget*& labels, Draw& draw) {
+Card* labels_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameLabelLines);
-    labels = draw.grid(portable.MSHFlexLabels, shown(portable.frameLabelLines.text()));
+    GridWidget* const labels =
+        draw.grid(portable.MSHFlexLabels, shown(portable.frameLabelLines.text()));
     labels->use_all_width();
     labels->drop_row_numbers();
     labels->set_empty_text(QStringLiteral(
@@ -139,15 +139,13 @@ Card* more_data_card(Portable& portable, Draw& draw) {
 // From the top down: the number of lines and their labels, or the results; what comes after a save
 // below. The room that is left over lies below all.
 void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
-    QPushButton* to_labels = nullptr;
-    GridWidget* labels = nullptr;
     QVBoxLayout* const page = draw.window().page();
     page->addWidget(draw.title());
     page->addWidget(display_card(portable, draw));
-    page->addWidget(lines_card(portable, to_labels, draw));
-    page->addWidget(labels_card(portable, labels, draw), 1);
+    page->addWidget(lines_card(portable, draw));
+    page->addWidget(labels_card(portable, draw), 1);
     page->addWidget(results_card(portable, draw), 1);
-    lead_on(to_labels, labels);
+    draw.lead_on(portable.cmdContinue, portable.MSHFlexLabels);
 
     auto* const after = new QHBoxLayout;
     after->setSpacing(between_cards);
