@@ -1,9 +1,9 @@
 #include <QGridLayout>
-#include <QPushButton>
 
 #include "platform/desktop/file_choice.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -69,16 +69,12 @@ QHBoxLayout* outcome(Results& results, Draw& draw) {
     converted->content()->addLayout(sentence);
     there_while_shown(converted, {file, word});
 
-    Card* const question = draw.card(results.frameEnterMoreData);
-    const auto [yes, no] =
-        draw.to_go_on(question, results.cmdEnterMoreDataYes, results.cmdEnterMoreDataNo);
-    question->head()->addWidget(yes);
-    question->head()->addWidget(no);
-
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
     line->addWidget(converted, 3);  // a path and a sentence
-    line->addWidget(question, 2);
+    line->addWidget(question(results.frameEnterMoreData, results.cmdEnterMoreDataYes,
+                             results.cmdEnterMoreDataNo, draw),
+                    2);
     return line;
 }
 

@@ -10,6 +10,7 @@
 #include "characteristics/detail_choices.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -284,11 +285,9 @@ void lead_into_panels(Details& details, Draw& draw) {
 }
 
 Card* confirm_card(Details& details, Draw& draw) {
-    Card* const card = draw.card(details.frameSaveConfirm);
-    const auto [yes, no] = draw.to_go_on(card, details.cmdYes, details.cmdNo, 'O');
-    card->head()->addWidget(draw.caption(details.lblSaveConfirm));
-    card->head()->addWidget(yes);
-    card->head()->addWidget(no);
+    constexpr int behind_title = 1;
+    Card* const card = question(details.frameSaveConfirm, details.cmdYes, details.cmdNo, draw, 'O');
+    card->head()->insertWidget(behind_title, draw.caption(details.lblSaveConfirm));
     return card;
 }
 

@@ -8,6 +8,7 @@
 #include "import/column_assignment.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 #include "shared/text.h"
 
 namespace brooklander::desktop {
@@ -18,16 +19,6 @@ using Display = FrmImportFileDisplay;
 // The underlined letters of the category buttons, in the order of the categories.
 constexpr std::array<char, categories.size()> category_letters{'S', 'D', 'T', 'A',
                                                                'p', 'm', 'l', 'R'};
-
-// A question with a Yes and a No beside it.
-Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, const QString& text = {}) {
-    Card* const card = draw.card(panel);
-    const auto [yes_button, no_button] = draw.to_go_on(card, yes, no);
-    if (!text.isEmpty()) card->head()->addWidget(draw.text(text, card), 2);
-    card->head()->addWidget(yes_button);
-    card->head()->addWidget(no_button);
-    return card;
-}
 
 // The file in work on the left, where its values come from on the right.
 QHBoxLayout* files_line(Display& display, Draw& draw) {
@@ -86,6 +77,15 @@ Card* filler_card(Display& display, Draw& draw) {
     line->addWidget(draw.button(display.cmdActivitySkip, 'S'));
     line->addWidget(draw.filled(display.cmdActivityContinue, 'C'));
     card->content()->addLayout(line);
+    return card;
+}
+
+Card* same_selections_card(Display& display, Draw& draw) {
+    constexpr int behind_title = 1;
+    Card* const card =
+        question(display.frameSameSelections, display.cmdColumnYes, display.cmdColumnNo, draw);
+    QLabel* const text = draw.text(QStringLiteral("Use Existing Column Selections ?"), card);
+    card->head()->insertWidget(behind_title, text, 2);
     return card;
 }
 
@@ -303,10 +303,8 @@ void lay_out_import(FrmImportFileDisplay& display, Draw& draw) {
          {question(display.frameImportConfirm, display.cmdYes, display.cmdNo, draw),
           question(display.frameChar, display.cmdCharYes, display.cmdCharNo, draw),
           characteristics_card(display, draw), filler_card(display, draw),
-          question(display.frameSameSelections, display.cmdColumnYes, display.cmdColumnNo, draw,
-                   QStringLiteral("Use Existing Column Selections ?")),
-          columns_card(display, draw), row_card(display, draw), output_card(display, draw),
-          converted_card(display, draw)}) {
+          same_selections_card(display, draw), columns_card(display, draw), row_card(display, draw),
+          output_card(display, draw), converted_card(display, draw)}) {
         page->addLayout(of_readable_width(card));
     }
     page->addWidget(table_card(display, draw), 1);

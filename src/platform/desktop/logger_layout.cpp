@@ -20,14 +20,6 @@ Card* note_card(FrmLogger& logger, Draw& draw) {
     return card;
 }
 
-Card* question_card(FrmLogger& logger, Draw& draw) {
-    Card* const card = draw.card(logger.frameImport);
-    const auto [yes, no] = draw.to_go_on(card, logger.cmdYes, logger.cmdNo);
-    card->head()->addWidget(yes);
-    card->head()->addWidget(no);
-    return card;
-}
-
 Card* contents_sheet(FrmLogger& logger, Draw& draw) {
     Card* const sheet = draw.sheet();
     QLabel* const caption = draw.caption(logger.lblLoggerDetails, 'L');
@@ -137,7 +129,7 @@ void lay_out_logger(FrmLogger& logger, Draw& draw) {
     };
     add(file_sheet(logger, draw));
     add(note_card(logger, draw));
-    add(question_card(logger, draw));
+    add(question(logger.frameImport, logger.cmdYes, logger.cmdNo, draw));
     page->addWidget(contents_sheet(logger, draw), 1);
     page->addWidget(lists_card(logger, draw), 1);
     add(chosen_card(logger, draw));

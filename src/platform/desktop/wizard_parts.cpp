@@ -69,6 +69,14 @@ QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card
     return line;
 }
 
+Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, char letter_of_no) {
+    Card* const card = draw.card(panel);
+    const auto [yes_button, no_button] = draw.to_go_on(card, yes, no, letter_of_no);
+    card->head()->addWidget(yes_button);
+    card->head()->addWidget(no_button);
+    return card;
+}
+
 QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(inside_card);

@@ -32,6 +32,9 @@ void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw);
 // null. There is room behind it.
 QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card* card, Draw& draw);
 
+// A question with a Yes and a No beside it, which is asked to go on.
+Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, char letter_of_no = 'N');
+
 // What is on the left, the note on what is still needed, and the button.
 QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button);
 
