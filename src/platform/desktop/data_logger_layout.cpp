@@ -17,9 +17,10 @@ Card* organization_card(FrmDataLogger& logger, Draw& draw) {
                       .none = QStringLiteral("KELDAR holds no organization yet.")});
     card->lead_to(organizations, 'O');
     card->content()->addWidget(organizations, 1);
-    card->content()->addLayout(chosen_line(QStringLiteral("Organization:"),
-                                           logger.lblOrganizationSelect, &logger.lblOrgName, card,
-                                           draw));
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Organization:"), card, logger.lblOrganizationSelect, draw,
+               &logger.lblOrgName);
+    card->content()->addLayout(chosen);
     QLabel* const note = draw.still_needed(
         logger.cmdLoggerNext, {{logger.lblOrganizationSelect, logger.MSHFlexOrganization,
                                 QStringLiteral("organization")}});
@@ -88,8 +89,9 @@ Card* group_card(FrmDataLogger& logger, Draw& draw) {
     draw.name_column(groups, 1, logger.lblGroupNameColumn);
     card->lead_to(groups, 'G');
     card->content()->addWidget(groups, 1);
-    card->content()->addLayout(
-        chosen_line(QStringLiteral("Group:"), logger.lblGroupName, nullptr, card, draw));
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Group:"), card, logger.lblGroupName, draw);
+    card->content()->addLayout(chosen);
     card->content()->addLayout(contents(logger, card, draw), 1);
     QLabel* const note = draw.still_needed(
         logger.cmdConvertContinue,

@@ -29,20 +29,11 @@ Card* files_card(Results& results, Draw& draw) {
 Card* display_card(Results& results, Draw& draw) {
     Card* const card = draw.card(results.frameDisplay);
     card->content()->addWidget(draw.note(results.lblMatch));
-    auto* const form = new QGridLayout;
-    form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
-    int row = 0;
-    const auto add = [&](Label& caption, Label& value) {
-        form->addWidget(draw.caption(caption), row, 0);
-        form->addWidget(draw.value(value, shown(caption.text())), row, 1);
-        ++row;
-    };
-    add(results.lblInstallationCaption, results.lblInstallationIDConvert);
-    add(results.lblPeriodCaption, results.lblOperatingPeriodLogConvert);
-    add(results.lblStartCaption, results.lblStartDateTime);
-    add(results.lblStopCaption, results.lblStopDateTime);
-    form->setColumnStretch(1, 1);
+    QGridLayout* const form = chosen_form();
+    add_chosen(form, {results.lblInstallationCaption, results.lblInstallationIDConvert}, draw);
+    add_chosen(form, {results.lblPeriodCaption, results.lblOperatingPeriodLogConvert}, draw);
+    add_chosen(form, {results.lblStartCaption, results.lblStartDateTime}, draw);
+    add_chosen(form, {results.lblStopCaption, results.lblStopDateTime}, draw);
     card->content()->addLayout(form);
     ListWidget* const lines =
         draw.list(results.lstLoggerFile, QStringLiteral("Lines of the selected file"));

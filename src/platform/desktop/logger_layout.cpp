@@ -9,8 +9,9 @@ namespace {
 
 Card* file_sheet(FrmLogger& logger, Draw& draw) {
     Card* const sheet = draw.sheet();
-    sheet->content()->addLayout(chosen_line(QStringLiteral("Data Logger File:"),
-                                            logger.lblSelectedFile, nullptr, sheet, draw));
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Data Logger File:"), sheet, logger.lblSelectedFile, draw);
+    sheet->content()->addLayout(chosen);
     return sheet;
 }
 
@@ -86,21 +87,11 @@ Card* lists_card(FrmLogger& logger, Draw& draw) {
 
 Card* chosen_card(FrmLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.FrameDetailsDisplay);
-    auto* const form = new QGridLayout;
-    form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
-    const auto add = [&](int row, const QString& caption, Label& value, int columns) {
-        form->addWidget(draw.text(caption, card), row, 0);
-        form->addWidget(draw.value(value, caption), row, 1, 1, columns);
-    };
-    add(0, QStringLiteral("Organization:"), logger.lblOrganization, 1);
-    ValueLabel* const name =
-        draw.value(logger.lblOrganizationName, QStringLiteral("Organization name"));
-    name->drop_dash();
-    form->addWidget(name, 0, 2);
-    add(1, QStringLiteral("Installation ID:"), logger.lblInstallationID, 2);
-    add(2, QStringLiteral("Log File:"), logger.lblLogFile, 2);
-    form->setColumnStretch(2, 1);
+    QGridLayout* const form = chosen_form();
+    add_chosen(form, QStringLiteral("Organization:"), card, logger.lblOrganization, draw,
+               &logger.lblOrganizationName);
+    add_chosen(form, QStringLiteral("Installation ID:"), card, logger.lblInstallationID, draw);
+    add_chosen(form, QStringLiteral("Log File:"), card, logger.lblLogFile, draw);
     card->content()->addLayout(form);
     return card;
 }

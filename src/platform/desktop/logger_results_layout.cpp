@@ -39,10 +39,10 @@ Card* group_card(FrmLoggerResults& results, Draw& draw) {
     lists->addWidget(characteristics(results, draw), 3);
     card->content()->addLayout(lists, 1);
 
-    QHBoxLayout* const line = chosen_line(QStringLiteral("Characteristic Group:"),
-                                          results.lblCharGroup, nullptr, card, draw);
-    line->addWidget(draw.filled(results.cmdConvert, 'v'));
-    card->content()->addLayout(line);
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Characteristic Group:"), card, results.lblCharGroup, draw);
+    chosen->addWidget(draw.filled(results.cmdConvert, 'v'), 0, 3);
+    card->content()->addLayout(chosen);
     return card;
 }
 

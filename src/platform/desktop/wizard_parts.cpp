@@ -38,35 +38,38 @@ QGridLayout* chosen_form() {
     return form;
 }
 
-void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw) {
+namespace {
+
+// Returns which row it is.
+int add_value(QGridLayout* form, QLabel* caption, const QString& spoken, Label& value, Label* name,
+              Draw& draw) {
     const int row = form->count() == 0 ? 0 : form->rowCount();
+    form->addWidget(caption, row, 0);
+    form->addWidget(draw.value(value, spoken), row, 1, 1, name == nullptr ? 2 : 1);
+    if (name == nullptr) return row;
+    ValueLabel* const behind = draw.value(*name, spoken + QStringLiteral(" name"));
+    behind->drop_dash();
+    form->addWidget(behind, row, 2);
+    return row;
+}
+
+}  // namespace
+
+void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw) {
     const QString spoken = shown(chosen.caption.text());
-    form->addWidget(draw.caption(chosen.caption), row, 0);
-    form->addWidget(draw.value(chosen.value, spoken), row, 1, 1, chosen.name == nullptr ? 2 : 1);
-    if (chosen.name != nullptr) {
-        ValueLabel* const name = draw.value(*chosen.name, spoken + QStringLiteral(" name"));
-        name->drop_dash();
-        form->addWidget(name, row, 2);
-    }
+    const int row =
+        add_value(form, draw.caption(chosen.caption), spoken, chosen.value, chosen.name, draw);
     if (chosen.clear == nullptr) return;
     QPushButton* const clear = draw.button(*chosen.clear);
     clear->setAccessibleName(shown(chosen.clear->text()) + u' ' + spoken);
     form->addWidget(clear, row, 3);
 }
 
-QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card* card,
-                         Draw& draw) {
+void add_chosen(QGridLayout* form, const QString& caption, Card* card, Label& value, Draw& draw,
+                Label* name) {
     QLabel* const before = draw.text(caption, card);
     before->setWordWrap(false);
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(between_controls);
-    line->addWidget(before);
-    line->addWidget(draw.value(value, caption), name == nullptr ? 1 : 0);
-    if (name == nullptr) return line;
-    ValueLabel* const behind = draw.value(*name, caption + QStringLiteral(" name"));
-    behind->drop_dash();
-    line->addWidget(behind, 1);
-    return line;
+    add_value(form, before, caption, value, name, draw);
 }
 
 Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, char letter_of_no) {

@@ -28,9 +28,9 @@ struct Chosen {
 };
 void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw);
 
-// What is chosen, on one line, for a screen that has no field for its caption; the name may be
-// null. There is room behind it.
-QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card* card, Draw& draw);
+// The same under a text on the form's card, for a screen that has no field for the caption.
+void add_chosen(QGridLayout* form, const QString& caption, Card* card, Label& value, Draw& draw,
+                Label* name = nullptr);
 
 // A question with a Yes and a No beside it, which is asked to go on.
 Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, char letter_of_no = 'N');
