@@ -11,12 +11,7 @@ namespace {
 
 Card* organization_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameOrganizations);
-    GridWidget* const organizations =
-        draw.choices(logger.MSHFlexOrganization, shown(logger.frameOrganizations.text()),
-                     {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
-                      .none = QStringLiteral("KELDAR holds no organization yet.")});
-    card->lead_to(organizations, 'O');
-    card->content()->addWidget(organizations, 1);
+    add_choices(card, 'O', logger.MSHFlexOrganization, organization_texts(), draw);
     QGridLayout* const chosen = chosen_form();
     add_chosen(chosen, QStringLiteral("Organization:"), card, logger.lblOrganizationSelect, draw,
                &logger.lblOrgName);
@@ -81,14 +76,13 @@ QVBoxLayout* contents(FrmDataLogger& logger, Card* card, Draw& draw) {
 
 Card* group_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameCharacteristicGroup);
-    GridWidget* const groups = draw.choices(
-        logger.MSHFlexGroups, shown(logger.frameCharacteristicGroup.text()),
+    GridWidget* const groups = add_choices(
+        card, 'G', logger.MSHFlexGroups,
         {.waiting = QStringLiteral("The groups of the organization are listed here."),
-         .none = QStringLiteral("This organization has no groups for data loggers in KELDAR.")});
+         .none = QStringLiteral("This organization has no groups for data loggers in KELDAR.")},
+        draw);
     draw.name_column(groups, 0, logger.lblGroupIdColumn);
     draw.name_column(groups, 1, logger.lblGroupNameColumn);
-    card->lead_to(groups, 'G');
-    card->content()->addWidget(groups, 1);
     QGridLayout* const chosen = chosen_form();
     add_chosen(chosen, QStringLiteral("Group:"), card, logger.lblGroupName, draw);
     card->content()->addLayout(chosen);

@@ -45,11 +45,8 @@ QVBoxLayout* captioned(QLabel* caption, GridWidget* list) {
 
 QVBoxLayout* organizations(FrmLogger& logger, Card* card, Draw& draw) {
     QLabel* const caption = draw.text(with_mnemonic("Organizations", 'O'), card);
-    return captioned(
-        caption,
-        draw.choices(logger.MSHFlexOrganization, QStringLiteral("Organizations"),
-                     {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
-                      .none = QStringLiteral("KELDAR holds no organization yet.")}));
+    return captioned(caption, draw.choices(logger.MSHFlexOrganization,
+                                           QStringLiteral("Organizations"), organization_texts()));
 }
 
 // A list that waits for a choice in another one; its caption comes with its rows.

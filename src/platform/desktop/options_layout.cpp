@@ -14,11 +14,8 @@ using Options = FrmPreferencesSampleOption;
 Card* list_section(Panel& panel, char letter, Grid& grid, const QString& none,
                    std::initializer_list<Chosen> all_chosen, Draw& draw) {
     Card* const section = draw.section(panel);
-    GridWidget* const list =
-        draw.choices(grid, shown(panel.text()),
-                     {.waiting = QStringLiteral("Choose an organization first."), .none = none});
-    section->lead_to(list, letter);
-    section->content()->addWidget(list, 1);
+    add_choices(section, letter, grid,
+                {.waiting = QStringLiteral("Choose an organization first."), .none = none}, draw);
     QGridLayout* const form = chosen_form();
     for (const Chosen& chosen : all_chosen) add_chosen(form, chosen, draw);
     section->content()->addLayout(form);

@@ -29,12 +29,7 @@ QGridLayout* boxes(std::initializer_list<QCheckBox*> boxes, int in_a_row) {
 
 Card* organization_card(Settings& settings, Draw& draw) {
     Card* const card = draw.card(settings.frameView);
-    GridWidget* const organizations =
-        draw.choices(settings.MSHFlexOrganization, shown(settings.frameView.text()),
-                     {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
-                      .none = QStringLiteral("KELDAR holds no organization yet.")});
-    card->content()->addWidget(organizations, 1);
-    card->lead_to(organizations, 'O');
+    add_choices(card, 'O', settings.MSHFlexOrganization, organization_texts(), draw);
     QGridLayout* const chosen = chosen_form();
     add_chosen(chosen,
                {settings.lblOrganizationCaption, settings.lblSelectedOrganization,

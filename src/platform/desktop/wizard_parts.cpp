@@ -30,6 +30,19 @@ void begin_step(Label& caption, Label& name, Draw& draw) {
     add_named_file(draw.sheet(), heading, name, shown(caption.text()), draw);
 }
 
+Draw::ListTexts organization_texts() {
+    return {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
+            .none = QStringLiteral("KELDAR holds no organization yet.")};
+}
+
+GridWidget* add_choices(Card* card, char letter, Grid& grid, const Draw::ListTexts& texts,
+                        Draw& draw) {
+    GridWidget* const list = draw.choices(grid, shown(grid.container()->text()), texts);
+    card->lead_to(list, letter);
+    card->content()->addWidget(list, 1);
+    return list;
+}
+
 QGridLayout* chosen_form() {
     auto* const form = new QGridLayout;
     form->setHorizontalSpacing(between_controls);

@@ -15,6 +15,13 @@ namespace brooklander::desktop {
 void begin_step(Panel& panel, Label& name, Draw& draw);
 void begin_step(Label& caption, Label& name, Draw& draw);
 
+// Of the list of organizations, wherever one is chosen.
+Draw::ListTexts organization_texts();
+
+// A list to choose from over the whole card of its panel, whose title names it and leads to it.
+GridWidget* add_choices(Card* card, char letter, Grid& grid, const Draw::ListTexts& texts,
+                        Draw& draw);
+
 // Captions on the left, values behind them, and room for a button at the end of each row.
 QGridLayout* chosen_form();
 
