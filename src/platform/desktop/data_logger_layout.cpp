@@ -54,9 +54,7 @@ Card* installation_card(FrmDataLogger& logger, Draw& draw) {
 // The characteristics of a group come up with the first group that is chosen; their caption stands
 // over the place until then.
 QVBoxLayout* contents(FrmDataLogger& logger, Card* card, Draw& draw) {
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(draw.caption(logger.lblContents));
+    QVBoxLayout* const column = stacked({draw.caption(logger.lblContents)});
     QLabel* const waiting =
         draw.text(QStringLiteral("Choose a group: its characteristics are listed here."), card);
     GridWidget* const list = draw.choices(

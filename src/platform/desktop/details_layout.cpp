@@ -117,7 +117,7 @@ Card* procedures_card(Details& details, Draw& draw) {
     procedures->set_found_none_text(QStringLiteral("This source has no procedures."));
     Card* const no_match = draw.section(details.frameNoMatch);
     auto* const found = new QGridLayout;  // the sentence stands where the table stood
-    found->setVerticalSpacing(4);
+    found->setVerticalSpacing(close_together);
     found->addWidget(of_height_left(procedures), 0, 0);
     found->addWidget(no_match, 0, 0, Qt::AlignTop);
     found->addWidget(draw.caption(details.lblProcHint), 1, 0);

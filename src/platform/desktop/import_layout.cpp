@@ -155,7 +155,7 @@ Card* columns_card(Display& display, Draw& draw) {
     constexpr int rows_of_group = 4;
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(between_controls);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(close_together);
     int number = 0;
     for (const Category& category : categories) {
         const int group = number / rows_of_group;

@@ -33,16 +33,6 @@ Card* contents_sheet(FrmLogger& logger, Draw& draw) {
     return sheet;
 }
 
-// A list below its caption, which leads to it.
-QVBoxLayout* captioned(QLabel* caption, GridWidget* list) {
-    caption->setBuddy(list);
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(caption);
-    column->addWidget(list, 1);
-    return column;
-}
-
 QVBoxLayout* organizations(FrmLogger& logger, Card* card, Draw& draw) {
     QLabel* const caption = draw.text(with_mnemonic("Organizations", 'O'), card);
     return captioned(caption, draw.choices(logger.MSHFlexOrganization,

@@ -18,7 +18,7 @@ Card* display_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameDisplay);
     auto* const form = new QGridLayout;
     form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
+    form->setVerticalSpacing(close_together);
     int place = 0;
     const auto add = [&](Label& caption, Label& value) {
         const int column = place % in_a_row * 2;

@@ -17,7 +17,7 @@ constexpr int details_in_letters = 54;
 QGridLayout* boxes(std::initializer_list<QCheckBox*> boxes, int in_a_row) {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(inside_card);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(close_together);
     int place = 0;
     for (QCheckBox* const box : boxes) {
         grid->addWidget(box, place / in_a_row, place % in_a_row);

@@ -12,6 +12,7 @@ namespace brooklander::desktop {
 inline constexpr int between_cards = 12;
 inline constexpr int inside_card = 16;
 inline constexpr int between_controls = 8;
+inline constexpr int close_together = 4;  // a caption and what it stands over, lines of a form
 inline constexpr int control_height = 28;
 
 // The application's font, larger by so many points, and of a weight.

@@ -30,6 +30,20 @@ void begin_step(Label& caption, Label& name, Draw& draw) {
     add_named_file(draw.sheet(), heading, name, shown(caption.text()), draw);
 }
 
+QVBoxLayout* stacked(std::initializer_list<QWidget*> widgets) {
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(close_together);
+    for (QWidget* const widget : widgets) column->addWidget(widget);
+    return column;
+}
+
+QVBoxLayout* captioned(QLabel* caption, GridWidget* list) {
+    caption->setBuddy(list);
+    QVBoxLayout* const column = stacked({caption, list});
+    column->setStretchFactor(list, 1);
+    return column;
+}
+
 Draw::ListTexts organization_texts() {
     return {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
             .none = QStringLiteral("KELDAR holds no organization yet.")};
@@ -46,7 +60,7 @@ GridWidget* add_choices(Card* card, char letter, Grid& grid, const Draw::ListTex
 QGridLayout* chosen_form() {
     auto* const form = new QGridLayout;
     form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
+    form->setVerticalSpacing(close_together);
     form->setColumnStretch(2, 1);
     return form;
 }

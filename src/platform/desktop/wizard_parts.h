@@ -15,6 +15,12 @@ namespace brooklander::desktop {
 void begin_step(Panel& panel, Label& name, Draw& draw);
 void begin_step(Label& caption, Label& name, Draw& draw);
 
+// Widgets below each other, close together: a caption, and what it stands over.
+QVBoxLayout* stacked(std::initializer_list<QWidget*> widgets);
+
+// A list below its caption, which leads to it.
+QVBoxLayout* captioned(QLabel* caption, GridWidget* list);
+
 // Of the list of organizations, wherever one is chosen.
 Draw::ListTexts organization_texts();
 
