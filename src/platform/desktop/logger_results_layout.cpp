@@ -1,4 +1,3 @@
-#include <QCheckBox>
 #include <QPushButton>
 
 #include "platform/desktop/layouts.h"
@@ -52,13 +51,9 @@ Card* converted_card(FrmLoggerResults& results, Draw& draw) {
     card->content()->addWidget(
         draw.value(results.lblConvertedFile, shown(results.frameConverted.text())));
     card->content()->addWidget(draw.note(results.lblReady));
-    QCheckBox* const another = draw.tick_box(results.chkYes, 'I');
-    QCheckBox* const quit = draw.tick_box(results.chkNo, 'Q');
-    QLabel* const note =
-        draw.still_needed(results.cmdContinue, {}, QStringLiteral("Choose what comes next."));
-    card->content()->addLayout(foot({another, quit}, note, draw.filled(results.cmdContinue, 'C')));
+    ask_by_boxes(card, {results.chkYes, 'I'}, {results.chkNo, 'Q'}, results.cmdContinue, 'C',
+                 QStringLiteral("Choose what comes next."), draw);
     keep_height(card);
-    draw.window().asks(card, another, nullptr);
     return card;
 }
 

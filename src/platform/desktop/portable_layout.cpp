@@ -109,11 +109,8 @@ Card* results_card(Portable& portable, Draw& draw) {
 
 Card* enter_more_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameEnterMoreData);
-    QCheckBox* const yes = draw.tick_box(portable.chkDataYes, 'Y');
-    QCheckBox* const no = draw.tick_box(portable.chkDataNo, 'N');
-    QLabel* const note = draw.still_needed(portable.cmdMoreData, {}, QStringLiteral("Yes or No?"));
-    card->content()->addLayout(foot({yes, no}, note, draw.filled(portable.cmdMoreData, 'm')));
-    draw.window().asks(card, yes, nullptr);
+    ask_by_boxes(card, {portable.chkDataYes, 'Y'}, {portable.chkDataNo, 'N'}, portable.cmdMoreData,
+                 'm', QStringLiteral("Yes or No?"), draw);
     return card;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/desktop/wizard_parts.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 
 #include "platform/desktop/theme.h"
@@ -114,6 +115,15 @@ QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButto
     line->addWidget(note, 1);
     line->addWidget(button);
     return line;
+}
+
+void ask_by_boxes(Card* card, const BoxedAnswer& first, const BoxedAnswer& second, Button& go_on,
+                  char letter, const QString& waiting, Draw& draw) {
+    QCheckBox* const one = draw.tick_box(first.box, first.letter);
+    QCheckBox* const other = draw.tick_box(second.box, second.letter);
+    QLabel* const note = draw.still_needed(go_on, {}, waiting);
+    card->content()->addLayout(foot({one, other}, note, draw.filled(go_on, letter)));
+    draw.window().asks(card, one, nullptr);
 }
 
 }  // namespace brooklander::desktop

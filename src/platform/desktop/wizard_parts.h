@@ -48,6 +48,15 @@ void add_chosen(QGridLayout* form, const QString& caption, Card* card, Label& va
 // A question with a Yes and a No beside it, which is asked to go on.
 Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, char letter_of_no = 'N');
 
+// A question that is answered by one of two tick boxes, of which the first gets the keyboard, and
+// then the button. While the button waits for an answer, a note says `waiting`.
+struct BoxedAnswer {
+    TickBox& box;
+    char letter;
+};
+void ask_by_boxes(Card* card, const BoxedAnswer& first, const BoxedAnswer& second, Button& go_on,
+                  char letter, const QString& waiting, Draw& draw);
+
 // What is on the left, the note on what is still needed, and the button.
 QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button);
 
