@@ -1,6 +1,7 @@
 // What stands above the columns of a grid and beside its rows.
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "platform/desktop/grid_widget.h"
 
@@ -115,62 +116,53 @@ void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const
 
 namespace {
 
+// Columns or rows, whichever a label names.
+struct Headings {
+    void (GridWidget::*put)(int place, const QString& name);
+    QString (GridWidget::*name)(int place) const;
+};
+constexpr Headings columns{&GridWidget::name_column, &GridWidget::column_name};
+constexpr Headings rows{&GridWidget::name_row, &GridWidget::row_name};
+
 // A label that is drawn in the headings of a grid, and has no widget of its own.
-class HeadingView : public FieldView {
+class HeadingView final : public FieldView {
   public:
-    HeadingView(Label& label, GridWidget* grid, int place, QString otherwise)
-        : label_(label), grid_(grid), place_(place), otherwise_(std::move(otherwise)) {}
+    HeadingView(Label& label, GridWidget* grid, const Headings& headings, int place,
+                QString otherwise)
+        : label_(label),
+          grid_(grid),
+          headings_(headings),
+          place_(place),
+          otherwise_(std::move(otherwise)) {}
 
     Field& field() const override { return label_; }
     QWidget* widget() const override { return nullptr; }
-    void follow() override { put(wanted()); }
+    void follow() override { (grid_->*headings_.put)(place_, wanted()); }
     QString difference() const override {
-        if (stands() == wanted()) return {};
-        return QStringLiteral("says \"%1\" in the headings").arg(stands());
+        const QString stands = (grid_->*headings_.name)(place_);
+        if (stands == wanted()) return {};
+        return QStringLiteral("says \"%1\" in the headings").arg(stands);
     }
-
-  protected:
-    GridWidget* grid() const { return grid_; }
-    int place() const { return place_; }
-    virtual void put(const QString& text) = 0;
-    virtual QString stands() const = 0;
 
   private:
     QString wanted() const { return label_.visible() ? shown(label_.text()) : otherwise_; }
 
     Label& label_;
     GridWidget* grid_;
+    Headings headings_;
     int place_;  // of the column or row, from 0
     QString otherwise_;
-};
-
-class ColumnNameView : public HeadingView {
-  public:
-    using HeadingView::HeadingView;
-
-  protected:
-    void put(const QString& text) override { grid()->name_column(place(), text); }
-    QString stands() const override { return grid()->column_name(place()); }
-};
-
-class RowNameView : public HeadingView {
-  public:
-    using HeadingView::HeadingView;
-
-  protected:
-    void put(const QString& text) override { grid()->name_row(place(), text); }
-    QString stands() const override { return grid()->row_name(place()); }
 };
 
 }  // namespace
 
 std::unique_ptr<FieldView> column_name_view(Label& label, GridWidget* grid, int column,
                                             const QString& otherwise) {
-    return std::make_unique<ColumnNameView>(label, grid, column, otherwise);
+    return std::make_unique<HeadingView>(label, grid, columns, column, otherwise);
 }
 
 std::unique_ptr<FieldView> row_name_view(Label& label, GridWidget* grid, int row) {
-    return std::make_unique<RowNameView>(label, grid, row, QString());
+    return std::make_unique<HeadingView>(label, grid, rows, row, QString());
 }
 
 }  // namespace brooklander::desktop
