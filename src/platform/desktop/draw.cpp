@@ -135,7 +135,6 @@ ListWidget* Draw::list(EntryList& list, const QString& name) {
 QComboBox* Draw::pick_list(EntryList& list, const QString& name) {
     auto* const widget = new PickListBox(parent_of(list));
     widget->setAccessibleName(name);
-    widget->setMinimumHeight(control_height);
     windows_.add(pick_list_view(list, widget, windows_));
     return widget;
 }
