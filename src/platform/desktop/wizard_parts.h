@@ -1,6 +1,6 @@
 // What screens that lead on to each other have in common, so that they read as one wizard: the
-// file's name on top, the forms of what is chosen, and the button that moves on, at the lower
-// right.
+// file's name on top, the lists to choose from and the forms of what is chosen, the questions, and
+// the button that moves on, at the lower right.
 #pragma once
 
 #include <QGridLayout>
