@@ -48,7 +48,7 @@ void put_row(Grid& log, int row, BatchUpdateText& text) {
     text.put_record_date(date);
     text.begin_result();
     text.put_value(time);
-    for (int column = 2; column < log.columns(); ++column) {
+    for (int column = FrmDataLoggerResults::first_result_column; column < log.columns(); ++column) {
         if (!cells[column].empty()) text.put_value(trim(cells[column]));
     }
     text.end_line();

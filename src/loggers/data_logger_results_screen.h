@@ -7,6 +7,9 @@
 namespace brooklander {
 
 struct FrmDataLoggerResults : Screen {
+    // Date and time, and the results.
+    static constexpr int first_result_column = 2;
+
     explicit FrmDataLoggerResults(Desk& desk)
         : Screen(desk, "frmDataLoggerResults", "Data Logger Results Import") {}
 

@@ -162,6 +162,37 @@ TEST_F(DrawnGrid, ACaptionInAHeadingMovesNoColumn) {
     EXPECT_EQ(widget_->heading_text(0), "1  Sample/Activity ID");
 }
 
+// A grid looks at its marks once whenever it measures its texts.
+TEST_F(DrawnGrid, ItMeasuresItsTextsOnceForAllNamesAndNotForTheSameOnes) {
+    int looks = 0;
+    widget_->set_column_marks([&looks](int column) {
+        if (column == 0) ++looks;
+        return ColumnMark{};
+    });
+    fill(3);
+    looks = 0;
+    widget_->name_columns(0, {"Date", "Time", "Result"});
+    EXPECT_EQ(looks, 1);
+    widget_->name_columns(0, {"Date", "Time", "Result"});
+    widget_->name_column(1, QStringLiteral("Time"));
+    widget_->name_row(1, QString());
+    EXPECT_EQ(looks, 1);
+    widget_->name_column(1, QString());
+    EXPECT_EQ(looks, 2);
+    EXPECT_EQ(widget_->heading_text(1), "2");
+    EXPECT_EQ(widget_->heading_text(2), "Result");
+}
+
+TEST_F(DrawnGrid, AListWithoutRowsHasNoHeadingsOnceItsLastNameIsGone) {
+    widget_->use_all_width();
+    view_->follow();
+    EXPECT_EQ(widget_->heading_text(1), "");
+    widget_->name_column(0, QStringLiteral("Date"));
+    EXPECT_EQ(widget_->heading_text(1), "2");
+    widget_->name_column(0, QString());
+    EXPECT_EQ(widget_->heading_text(1), "");
+}
+
 TEST_F(DrawnGrid, AGridThatIsTypedIntoGetsEveryKey) {
     fill(3);
     std::string typed_keys;
@@ -259,6 +290,7 @@ TEST_F(DrawnGrid, AScreenReaderFindsEveryCell) {
     EXPECT_EQ(table.columnCount(), 3);
     EXPECT_EQ(table.cellAt(2, 1)->text(QAccessible::Name), "b2");
     EXPECT_EQ(table.columnDescription(1), "name");
+    EXPECT_EQ(table.rowDescription(0), "1");
     EXPECT_EQ(table.cellAt(3, 0), nullptr);
     click({2, 1});
     EXPECT_EQ(table.selectedCells().front()->text(QAccessible::Name), "b1");
@@ -268,6 +300,20 @@ TEST_F(DrawnGrid, AScreenReaderFindsEveryCell) {
     EXPECT_EQ(clicks_.back(), (GridCell{1, 2}));
     EXPECT_EQ(table.columnDescription(100000000), "");
     EXPECT_EQ(table.rowDescription(-1), "");
+}
+
+TEST_F(DrawnGrid, AScreenReaderSaysOfARowWhatItsHeadingSays) {
+    grid().add_row("id_code\tname\tkind");
+    grid().set_fixed_rows(1);
+    fill(3);
+    QAccessibleTableInterface& table =
+        *QAccessible::queryAccessibleInterface(widget_)->tableInterface();
+    widget_->name_row(1, QStringLiteral("Row ID:"));
+    EXPECT_EQ(table.rowDescription(0), "Row ID:");
+    EXPECT_EQ(table.rowDescription(1), "2");
+    widget_->drop_row_numbers();
+    EXPECT_EQ(table.rowDescription(0), "Row ID:");
+    EXPECT_EQ(table.rowDescription(1), "");
 }
 
 }  // namespace

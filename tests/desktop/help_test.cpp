@@ -105,6 +105,18 @@ TEST(HelpIsShown, PicturesAreAsWideAsTheTextAndFollowTheWindow) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return help.width_of_picture() == picture_width; }));
 }
 
+TEST(HelpIsShown, ItsPicturesAreReadOnce) {
+    Help help;
+    help.show();
+    const int width = help.width_of_picture();
+    std::filesystem::remove(help.folder.path() / "Brooklander/HELP/Lake.PNG");
+    help.window.window()->resize(700, 500);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return help.width_of_picture() > 0 && help.width_of_picture() < width; }));
+    help.show();
+    EXPECT_TRUE(help.text().find("[A lake]") != std::string::npos) << "and anew with the file";
+}
+
 TEST(HelpIsShown, AMissingPictureIsToldInItsWords) {
     Help help;
     help.write(
@@ -168,6 +180,26 @@ TEST(WaysThroughTheHelp, TheContentsNameTheHeadingsAndMarkTheOneInSight) {
     EXPECT_EQ(contents->currentRow(), 0);
     help.page()->go_to_name("sea");
     EXPECT_EQ(contents->currentRow(), 2);
+}
+
+TEST(WaysThroughTheHelp, TheContentsGrowWithALargeFontOfTheDesktop) {
+    const QFont before = QApplication::font();
+    const auto size_of_contents = [] {
+        Help help;
+        help.show();
+        const auto* const contents = help.part<QListWidget>("helpContents");
+        const QSize entry = contents->visualItemRect(contents->item(2)).size();
+        EXPECT_GE(entry.height(), contents->fontMetrics().height());
+        return QSize(contents->width(), entry.height());
+    };
+    const QSize usual = size_of_contents();
+    QFont large = before;
+    large.setPointSizeF(2 * before.pointSizeF());
+    QApplication::setFont(large);
+    const QSize doubled = size_of_contents();
+    QApplication::setFont(before);
+    EXPECT_GT(doubled.width(), usual.width() * 3 / 2);
+    EXPECT_GT(doubled.height(), usual.height() * 4 / 3);
 }
 
 TEST(WaysThroughTheHelp, AClickInTheContentsLeadsThereAndAltLeftBack) {

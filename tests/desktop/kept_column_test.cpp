@@ -25,6 +25,16 @@ class DrawnGridThatKeepsAColumn : public DrawnGrid {
         view_->follow();
     }
 
+    // Takes the border in the headings at this point so far to the right.
+    void drag(QPoint border, int by) {
+        const QPoint end = border + QPoint(by, 0);
+        QTest::mousePress(widget_->viewport(), Qt::LeftButton, {}, border);
+        QMouseEvent move(QEvent::MouseMove, end, widget_->mapToGlobal(end), Qt::LeftButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget_->viewport(), &move);
+        QTest::mouseRelease(widget_->viewport(), Qt::LeftButton, {}, end);
+    }
+
     // At a point of the widget, whatever the scale of the display.
     QColor colour_at(QPoint point) {
         const QImage picture = widget_->viewport()->grab().toImage();
@@ -72,14 +82,22 @@ TEST_F(DrawnGridThatKeepsAColumn, WhatScrollsIsPaintedBelowIt) {
 TEST_F(DrawnGridThatKeepsAColumn, ItsBorderIsDraggedAndNoneBelowIt) {
     widget_->bring_into_view({0, columns - 1});
     const QRect before = widget_->cell_place({0, 0});
-    const QPoint border(before.right() + 1, 10);
-    QTest::mousePress(widget_->viewport(), Qt::LeftButton, {}, border);
-    QMouseEvent move(QEvent::MouseMove, border + QPoint(40, 0), widget_->mapToGlobal(border),
-                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(widget_->viewport(), &move);
-    QTest::mouseRelease(widget_->viewport(), Qt::LeftButton, {}, border + QPoint(40, 0));
+    drag({before.right() + 1, 10}, 40);
     EXPECT_EQ(widget_->cell_place({0, 0}).width(), before.width() + 40);
     EXPECT_EQ(widget_->cell_place({0, 0}).left(), before.left());
+}
+
+TEST_F(DrawnGridThatKeepsAColumn, ItIsDraggedAsFarAsItCanBeKeptAndBack) {
+    widget_->bring_into_view({0, columns - 1});
+    const QRect before = widget_->cell_place({0, 0});
+    drag({before.right() + 1, 10}, 400);
+    const QRect widest = widget_->cell_place({0, 0});
+    EXPECT_EQ(widest.left(), before.left());
+    EXPECT_NEAR(widest.width(), (widget_->viewport()->width() - before.left()) / 2, 1);
+    widget_->bring_into_view({0, columns - 1});
+    EXPECT_EQ(widget_->cell_place({0, 0}), widest);
+    drag({widest.right() + 1, 10}, before.right() - widest.right());
+    EXPECT_EQ(widget_->cell_place({0, 0}), before);
 }
 
 TEST_F(DrawnGridThatKeepsAColumn, ItScrollsLikeTheOthersWhereItWouldLeaveThemNoRoom) {

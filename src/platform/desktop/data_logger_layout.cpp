@@ -11,15 +11,11 @@ namespace {
 
 Card* organization_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameOrganizations);
-    GridWidget* const organizations =
-        draw.choices(logger.MSHFlexOrganization, shown(logger.frameOrganizations.text()),
-                     {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
-                      .none = QStringLiteral("KELDAR holds no organization yet.")});
-    card->lead_to(organizations, 'O');
-    card->content()->addWidget(organizations, 1);
-    card->content()->addLayout(chosen_line(QStringLiteral("Organization:"),
-                                           logger.lblOrganizationSelect, &logger.lblOrgName, card,
-                                           draw));
+    add_choices(card, 'O', logger.MSHFlexOrganization, organization_texts(), draw);
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Organization:"), card, logger.lblOrganizationSelect, draw,
+               &logger.lblOrgName);
+    card->content()->addLayout(chosen);
     QLabel* const note = draw.still_needed(
         logger.cmdLoggerNext, {{logger.lblOrganizationSelect, logger.MSHFlexOrganization,
                                 QStringLiteral("organization")}});
@@ -27,8 +23,7 @@ Card* organization_card(FrmDataLogger& logger, Draw& draw) {
     return card;
 }
 
-// What its button leads to comes from the caller.
-Card* installation_card(FrmDataLogger& logger, QPushButton*& go_on, Draw& draw) {
+Card* installation_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameInstallation);
     QLabel* const installation = draw.caption(logger.lblInstallationCaption, 'I');
     QLabel* const period = draw.caption(logger.lblPeriodCaption, 'P');
@@ -46,22 +41,20 @@ Card* installation_card(FrmDataLogger& logger, QPushButton*& go_on, Draw& draw) 
         {{logger.txtInstallationID, logger.txtInstallationID, QStringLiteral("installation ID")},
          {logger.txtOperatingPeriod, logger.txtOperatingPeriod,
           QStringLiteral("operating period")}});
-    go_on = draw.filled(logger.cmdCharContinue, 'n');
+    QPushButton* const go_on = draw.filled(logger.cmdCharContinue, 'n');
     // The button comes up where the note has stood, in a line of the same height.
     leave_no_place(go_on);
     QHBoxLayout* const line = foot({}, note, go_on);
     line->addStrut(go_on->sizeHint().height());
     card->content()->addLayout(line);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 
 // The characteristics of a group come up with the first group that is chosen; their caption stands
 // over the place until then.
 QVBoxLayout* contents(FrmDataLogger& logger, Card* card, Draw& draw) {
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(draw.caption(logger.lblContents));
+    QVBoxLayout* const column = stacked({draw.caption(logger.lblContents)});
     QLabel* const waiting =
         draw.text(QStringLiteral("Choose a group: its characteristics are listed here."), card);
     GridWidget* const list = draw.choices(
@@ -71,29 +64,26 @@ QVBoxLayout* contents(FrmDataLogger& logger, Card* card, Draw& draw) {
     draw.name_column(list, 1, logger.lblDisplayNameColumn);
     draw.name_column(list, 2, logger.lblUnitsColumn);
     draw.name_column(list, 3, logger.lblFractionColumn);
-    const auto tell = [&logger, waiting] {
-        waiting->setVisible(!logger.MSHFlexContents.visible());
-    };
-    logger.MSHFlexContents.observe(tell);
-    tell();
+    tell_of(waiting, {&logger.MSHFlexContents},
+            [&logger, waiting] { waiting->setVisible(!logger.MSHFlexContents.visible()); });
     waiting->setAlignment(Qt::AlignTop);
     column->addWidget(waiting, 1);
     column->addWidget(list, 1);
     return column;
 }
 
-Card* group_card(FrmDataLogger& logger, GridWidget*& groups, Draw& draw) {
+Card* group_card(FrmDataLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameCharacteristicGroup);
-    groups = draw.choices(
-        logger.MSHFlexGroups, shown(logger.frameCharacteristicGroup.text()),
+    GridWidget* const groups = add_choices(
+        card, 'G', logger.MSHFlexGroups,
         {.waiting = QStringLiteral("The groups of the organization are listed here."),
-         .none = QStringLiteral("This organization has no groups for data loggers in KELDAR.")});
+         .none = QStringLiteral("This organization has no groups for data loggers in KELDAR.")},
+        draw);
     draw.name_column(groups, 0, logger.lblGroupIdColumn);
     draw.name_column(groups, 1, logger.lblGroupNameColumn);
-    card->lead_to(groups, 'G');
-    card->content()->addWidget(groups, 1);
-    card->content()->addLayout(
-        chosen_line(QStringLiteral("Group:"), logger.lblGroupName, nullptr, card, draw));
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Group:"), card, logger.lblGroupName, draw);
+    card->content()->addLayout(chosen);
     card->content()->addLayout(contents(logger, card, draw), 1);
     QLabel* const note = draw.still_needed(
         logger.cmdConvertContinue,
@@ -106,17 +96,15 @@ Card* group_card(FrmDataLogger& logger, GridWidget*& groups, Draw& draw) {
 
 // The organization, and below it what is typed; the groups come up beside both.
 void lay_out_data_logger(FrmDataLogger& logger, Draw& draw) {
-    QPushButton* to_groups = nullptr;
-    GridWidget* groups = nullptr;
     auto* const left = new QVBoxLayout;
     left->setSpacing(between_cards);
     left->addWidget(organization_card(logger, draw), 1);
-    left->addWidget(installation_card(logger, to_groups, draw));
+    left->addWidget(installation_card(logger, draw));
     auto* const whole = new QHBoxLayout;
     whole->setSpacing(between_cards);
     whole->addLayout(left, 1);
-    whole->addWidget(group_card(logger, groups, draw), 1);
-    lead_on(to_groups, groups);
+    whole->addWidget(group_card(logger, draw), 1);
+    draw.lead_on(logger.cmdCharContinue, logger.MSHFlexGroups);
     draw.window().page()->addWidget(draw.title());
     draw.window().page()->addLayout(whole, 1);
 }

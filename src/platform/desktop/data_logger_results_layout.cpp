@@ -1,9 +1,9 @@
 #include <QGridLayout>
-#include <QPushButton>
 
 #include "platform/desktop/file_choice.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -29,20 +29,11 @@ Card* files_card(Results& results, Draw& draw) {
 Card* display_card(Results& results, Draw& draw) {
     Card* const card = draw.card(results.frameDisplay);
     card->content()->addWidget(draw.note(results.lblMatch));
-    auto* const form = new QGridLayout;
-    form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
-    int row = 0;
-    const auto add = [&](Label& caption, Label& value) {
-        form->addWidget(draw.caption(caption), row, 0);
-        form->addWidget(draw.value(value, shown(caption.text())), row, 1);
-        ++row;
-    };
-    add(results.lblInstallationCaption, results.lblInstallationIDConvert);
-    add(results.lblPeriodCaption, results.lblOperatingPeriodLogConvert);
-    add(results.lblStartCaption, results.lblStartDateTime);
-    add(results.lblStopCaption, results.lblStopDateTime);
-    form->setColumnStretch(1, 1);
+    QGridLayout* const form = chosen_form();
+    add_chosen(form, {results.lblInstallationCaption, results.lblInstallationIDConvert}, draw);
+    add_chosen(form, {results.lblPeriodCaption, results.lblOperatingPeriodLogConvert}, draw);
+    add_chosen(form, {results.lblStartCaption, results.lblStartDateTime}, draw);
+    add_chosen(form, {results.lblStopCaption, results.lblStopDateTime}, draw);
     card->content()->addLayout(form);
     ListWidget* const lines =
         draw.list(results.lstLoggerFile, QStringLiteral("Lines of the selected file"));
@@ -69,16 +60,12 @@ QHBoxLayout* outcome(Results& results, Draw& draw) {
     converted->content()->addLayout(sentence);
     there_while_shown(converted, {file, word});
 
-    Card* const question = draw.card(results.frameEnterMoreData);
-    const auto [yes, no] =
-        draw.to_go_on(question, results.cmdEnterMoreDataYes, results.cmdEnterMoreDataNo);
-    question->head()->addWidget(yes);
-    question->head()->addWidget(no);
-
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
     line->addWidget(converted, 3);  // a path and a sentence
-    line->addWidget(question, 2);
+    line->addWidget(question(results.frameEnterMoreData, results.cmdEnterMoreDataYes,
+                             results.cmdEnterMoreDataNo, draw),
+                    2);
     return line;
 }
 
@@ -88,19 +75,20 @@ Card* log_sheet(Results& results, Draw& draw) {
     GridWidget* const log = draw.grid(results.MSFlexLog, QStringLiteral("Converted records"));
     log->use_all_width();
     log->set_empty_text(QStringLiteral("The records stand here once the file is converted."));
+    const auto result = [](int number) { return QStringLiteral("Result %1").arg(number); };
+    constexpr int first = Results::first_result_column;
     draw.name_column(log, 0, results.lblRowId, QStringLiteral("Date"));
     draw.name_column(log, 1, results.lblDisplayName, QStringLiteral("Time"));
-    draw.name_column(log, 2, results.lblUnits, QStringLiteral("Result 1"));
-    draw.name_column(log, 3, results.lblResult, QStringLiteral("Result 2"));
-    const auto name_others = [&results, log] {
-        for (int column = 4; column < results.MSFlexLog.columns(); ++column) {
-            log->name_column(column, results.lblResult.visible()
-                                         ? QString()
-                                         : QStringLiteral("Result %1").arg(column - 1));
+    draw.name_column(log, first, results.lblUnits, result(1));
+    draw.name_column(log, first + 1, results.lblResult, result(2));
+    // Behind the labels there are only names.
+    tell_of(log, {&results.lblResult}, [&results, log, result] {
+        QStringList names;
+        for (int number = 3; first + number <= results.MSFlexLog.columns(); ++number) {
+            names.push_back(results.lblResult.visible() ? QString() : result(number));
         }
-    };
-    results.lblResult.observe(name_others);
-    name_others();
+        log->name_columns(first + 2, names);
+    });
     sheet->content()->addWidget(log, 1);
     return sheet;
 }
@@ -111,7 +99,7 @@ void lay_out_data_logger_results(FrmDataLoggerResults& results, Draw& draw) {
     QVBoxLayout* const page = draw.window().page();
     page->addWidget(draw.title());
     Card* const warning = draw.card(results.frameWarning);
-    warning->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(warning);
     page->addWidget(warning);
     auto* const upper = new QHBoxLayout;
     upper->setSpacing(between_cards);

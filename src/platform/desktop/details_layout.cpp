@@ -10,6 +10,7 @@
 #include "characteristics/detail_choices.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 
 namespace brooklander::desktop {
 namespace {
@@ -116,7 +117,7 @@ Card* procedures_card(Details& details, Draw& draw) {
     procedures->set_found_none_text(QStringLiteral("This source has no procedures."));
     Card* const no_match = draw.section(details.frameNoMatch);
     auto* const found = new QGridLayout;  // the sentence stands where the table stood
-    found->setVerticalSpacing(4);
+    found->setVerticalSpacing(close_together);
     found->addWidget(of_height_left(procedures), 0, 0);
     found->addWidget(no_match, 0, 0, Qt::AlignTop);
     found->addWidget(draw.caption(details.lblProcHint), 1, 0);
@@ -182,9 +183,8 @@ Card* pick_card(const Picked& picked, Draw& draw) {
     if (picked.selected.visible()) add_selected(line, picked.selected, card, draw);
     line->addStretch();
     QLabel* const empty = draw.text(QLatin1String(picked.empty), card);
-    const auto tell = [&entries = picked.list, empty] { empty->setVisible(entries.count() == 0); };
-    picked.list.observe(tell);
-    tell();
+    tell_of(empty, {&picked.list},
+            [&entries = picked.list, empty] { empty->setVisible(entries.count() == 0); });
     card->content()->addLayout(line);
     card->content()->addWidget(empty);
     card->content()->addLayout(for_all(picked.sentence, picked.yes, draw));
@@ -231,17 +231,12 @@ Card* no_panel_sheet(Details& details, Draw& draw) {
                        "have it, or Yes for all."),
         sheet));
     sheet->content()->addStretch();
-    const auto tell = [&details, sheet] {
-        const bool open = details.frameProcedure.visible() ||
-                          std::any_of(detail_choices.begin(), detail_choices.end(),
-                                      [&details](const DetailChoice& choice) {
-                                          return (details.*choice.panel).visible();
-                                      });
-        sheet->setVisible(!open);
-    };
-    details.frameProcedure.observe(tell);
-    for (const DetailChoice& choice : detail_choices) (details.*choice.panel).observe(tell);
-    tell();
+    std::vector<Field*> panels{&details.frameProcedure};
+    for (const DetailChoice& choice : detail_choices) panels.push_back(&(details.*choice.panel));
+    tell_of(sheet, panels, [panels, sheet] {
+        sheet->setVisible(std::none_of(panels.begin(), panels.end(),
+                                       [](const Field* panel) { return panel->visible(); }));
+    });
     return sheet;
 }
 
@@ -290,11 +285,9 @@ void lead_into_panels(Details& details, Draw& draw) {
 }
 
 Card* confirm_card(Details& details, Draw& draw) {
-    Card* const card = draw.card(details.frameSaveConfirm);
-    const auto [yes, no] = draw.to_go_on(card, details.cmdYes, details.cmdNo, 'O');
-    card->head()->addWidget(draw.caption(details.lblSaveConfirm));
-    card->head()->addWidget(yes);
-    card->head()->addWidget(no);
+    constexpr int behind_title = 1;
+    Card* const card = question(details.frameSaveConfirm, details.cmdYes, details.cmdNo, draw, 'O');
+    card->head()->insertWidget(behind_title, draw.caption(details.lblSaveConfirm));
     return card;
 }
 

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "platform/desktop/theme.h"
 #include "platform/desktop/windows.h"
@@ -134,7 +135,6 @@ ListWidget* Draw::list(EntryList& list, const QString& name) {
 QComboBox* Draw::pick_list(EntryList& list, const QString& name) {
     auto* const widget = new PickListBox(parent_of(list));
     widget->setAccessibleName(name);
-    widget->setMinimumHeight(control_height);
     windows_.add(pick_list_view(list, widget, windows_));
     return widget;
 }
@@ -180,23 +180,27 @@ QLabel* Draw::still_needed(Button& button, const std::vector<Needed>& needed,
                            const QString& otherwise) {
     QLabel* const note = text(QString(), parent_of(button));
     note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    // The fields outlive the note and go on telling of their changes.
-    const auto tell = std::make_shared<const std::function<void()>>(
-        [widget = QPointer<QLabel>(note), &button, needed, otherwise] {
-            if (widget) widget->setText(sentence_of(button, needed, otherwise));
-        });
-    const auto watch = [&tell](Field& field) { field.observe([tell] { (*tell)(); }); };
-    watch(button);
+    std::vector<Field*> fields{&button};
     for (const Needed& each : needed) {
-        watch(each.value);
-        for (Field* at = &each.chosen_from; at != nullptr; at = at->container()) watch(*at);
+        fields.push_back(&each.value);
+        for (Field* at = &each.chosen_from; at != nullptr; at = at->container()) {
+            fields.push_back(at);
+        }
     }
-    (*tell)();
+    tell_of(note, fields, [note, &button, needed, otherwise] {
+        note->setText(sentence_of(button, needed, otherwise));
+    });
     return note;
 }
 
 void Draw::begins_in(const Panel& panel, QWidget* control) {
     window_.begins(windows_.view_of(panel)->widget(), control);
+}
+
+void Draw::lead_on(const Button& pressed, const Field& to) {
+    auto* const button = static_cast<QPushButton*>(widget_of(pressed));
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [control = widget_of(to)] { give_keyboard(control); });
 }
 
 QWidget* Draw::widget_of(const Field& field) const { return windows_.view_of(field)->widget(); }
@@ -269,18 +273,29 @@ void there_while_shown(QWidget* card, std::initializer_list<QWidget*> widgets) {
     new AnyShown(widgets, [card](bool any) { card->setVisible(any); });
 }
 
-void give_keyboard(QWidget* control) {
-    if (control->isVisible() && control->isEnabled()) control->setFocus(Qt::OtherFocusReason);
+void tell_of(QWidget* told, const std::vector<Field*>& fields, std::function<void()> tell) {
+    // The fields outlive the widget and go on telling of their changes.
+    const auto tell_while_there = std::make_shared<const std::function<void()>>(
+        [widget = QPointer<QWidget>(told), tell = std::move(tell)] {
+            if (widget) tell();
+        });
+    for (Field* const field : fields) {
+        field->observe([tell_while_there] { (*tell_while_there)(); });
+    }
+    (*tell_while_there)();
 }
 
-void lead_on(QPushButton* pressed, QWidget* control) {
-    QObject::connect(pressed, &QPushButton::clicked, pressed,
-                     [control] { give_keyboard(control); });
+void give_keyboard(QWidget* control) {
+    if (control->isVisible() && control->isEnabled()) control->setFocus(Qt::OtherFocusReason);
 }
 
 void keep_width(QWidget* widget, int letters) {
     widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * letters);
     widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
+}
+
+void keep_height(QWidget* widget) {
+    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 namespace {

@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QString>
+#include <functional>
 #include <initializer_list>
 #include <vector>
 
@@ -95,6 +96,10 @@ class Draw {
     // Where the keyboard goes when a panel that is drawn already comes up.
     void begins_in(const Panel& panel, QWidget* control);
 
+    // Gives the keyboard on to a field when a button has been pressed; the step has run by then.
+    // Both are drawn already.
+    void lead_on(const Button& pressed, const Field& to);
+
     // The screen's title, above its cards.
     QLabel* title();
 
@@ -125,15 +130,19 @@ void share_while_shown(QBoxLayout* layout, int item, int share,
 // Shows a card that no panel stands for as long as one of the widgets on it is there.
 void there_while_shown(QWidget* card, std::initializer_list<QWidget*> widgets);
 
+// Tells something of these fields, on this widget or another that goes with it: now, and whenever
+// one of the fields changes while the widget is there.
+void tell_of(QWidget* told, const std::vector<Field*>& fields, std::function<void()> tell);
+
 // Gives the keyboard to a control that can take it.
 void give_keyboard(QWidget* control);
-
-// Gives the keyboard on to a control when a button has been pressed; the step has run by then.
-void lead_on(QPushButton* pressed, QWidget* control);
 
 // Gives a widget so many letters of its own font, so that it grows with it, and no more height than
 // its texts need.
 void keep_width(QWidget* widget, int letters);
+
+// Gives a widget no more height than its texts need.
+void keep_height(QWidget* widget);
 
 // Keeps a widget's place free while it is hidden, so that nothing beside it jumps.
 void keep_place(QWidget* widget);

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "platform/desktop/application.h"
 #include "platform/desktop/drawn_user.h"
 #include "platform/desktop/failure_box.h"
 #include "platform/desktop/help_window.h"
@@ -115,6 +116,20 @@ class DrawnFront : public scenario::Front {
 std::unique_ptr<scenario::Front> drawn_front(const Files& files,
                                              const std::filesystem::path& shots) {
     return std::make_unique<DrawnFront>(files, shots);
+}
+
+scenario::DrawnFrontMaker drawn_front_maker(char** argv) {
+    struct Setup {
+        // The application reads its own options from a command line that has none.
+        int no_arguments = 1;
+        std::unique_ptr<QApplication> application;
+    };
+    return [argv, setup = std::make_shared<Setup>()](const std::filesystem::path& shots) {
+        if (!has_display()) qputenv("QT_QPA_PLATFORM", "offscreen");
+        collect_warnings();
+        setup->application = make_application(setup->no_arguments, argv);
+        return [shots](const Files& files) { return drawn_front(files, shots); };
+    };
 }
 
 }  // namespace brooklander::desktop

@@ -33,7 +33,7 @@ QGridLayout* lists(const FileChoice& choice, int folder_lines, Card* card, Draw&
 
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(inside_card);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(close_together);
     grid->addWidget(caption_of(choice.drives_caption, "Drive:", 'D', drives, card, draw), 0, 0);
     grid->addWidget(drives, 1, 0);
     grid->addWidget(caption_of(choice.folders_caption, "Directory:", 'i', folders, card, draw), 2,

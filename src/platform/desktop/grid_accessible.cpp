@@ -115,12 +115,12 @@ class AccessibleGrid : public QAccessibleWidget, public QAccessibleTableInterfac
         QAccessibleInterface* const current = current_cell();
         return current == nullptr ? QList<QAccessibleInterface*>() : QList{current};
     }
-    // The numbers come from another program.
+    // The numbers come from another program. What is said is what stands in the headings.
     QString columnDescription(int column) const override {
         return column < 0 || column >= columnCount() ? QString() : grid_.heading_text(column);
     }
     QString rowDescription(int row) const override {
-        return row < 0 || row >= rowCount() ? QString() : QString::number(row + 1);
+        return row < 0 || row >= rowCount() ? QString() : grid_.row_heading_text(row);
     }
     int selectedColumnCount() const override { return 0; }
     int selectedRowCount() const override { return 0; }

@@ -106,7 +106,7 @@ void GridWidget::place_columns() {
 
 int GridWidget::kept_width() const {
     if (!keeps_first_column_ || columns_ < 2) return 0;
-    return 2 * lefts_[1] <= viewport()->width() - row_heading_ ? lefts_[1] : 0;
+    return lefts_[1] <= widest_kept() ? lefts_[1] : 0;
 }
 
 void GridWidget::read_page_columns() {

@@ -1,32 +1,38 @@
 // What stands above the columns of a grid and beside its rows.
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "platform/desktop/grid_widget.h"
 
 namespace brooklander::desktop {
 
-void GridWidget::name_column(int column, const QString& name) {
-    column_names_[column] = name;
-    follow();
+bool HeadingNames::set(int place, const QString& name) {
+    if (at(place) == name) return false;
+    if (name.isEmpty()) {
+        names_.erase(place);
+    } else {
+        names_[place] = name;
+    }
+    return true;
+}
+
+QString HeadingNames::at(int place) const {
+    const auto found = names_.find(place);
+    return found == names_.end() ? QString() : found->second;
+}
+
+void GridWidget::name_columns(int first, const QStringList& names) {
+    bool changed = false;
+    for (const QString& name : names) changed = column_names_.set(first++, name) || changed;
+    if (changed) follow();
 }
 
 void GridWidget::name_row(int row, const QString& name) {
-    row_names_[row] = name;
-    follow();
+    if (row_names_.set(row, name)) follow();
 }
 
 void GridWidget::drop_row_numbers() { numbers_rows_ = false; }
-
-QString GridWidget::column_name(int column) const {
-    const auto found = column_names_.find(column);
-    return found == column_names_.end() ? QString() : found->second;
-}
-
-QString GridWidget::row_name(int row) const {
-    const auto found = row_names_.find(row);
-    return found == row_names_.end() ? QString() : found->second;
-}
 
 // A little smaller than the cells', so that more of a caption fits.
 QFont GridWidget::caption_font() const {
@@ -57,7 +63,7 @@ QString GridWidget::row_heading_of(int row) const {
 int GridWidget::width_of_row_headings() const {
     int width =
         numbers_rows_ ? fontMetrics().horizontalAdvance(QString::number(std::max(1, rows_))) : 0;
-    for (const auto& [row, name] : row_names_) {
+    for (const auto& [row, name] : row_names_.all()) {
         width = std::max(width, fontMetrics().horizontalAdvance(name));
     }
     return width == 0 ? 0 : width + 2 * cell_margin;
@@ -110,62 +116,53 @@ void GridWidget::paint_headings(QPainter& painter, const Colours& colours) const
 
 namespace {
 
+// Columns or rows, whichever a label names.
+struct Headings {
+    void (GridWidget::*put)(int place, const QString& name);
+    QString (GridWidget::*name)(int place) const;
+};
+constexpr Headings columns{&GridWidget::name_column, &GridWidget::column_name};
+constexpr Headings rows{&GridWidget::name_row, &GridWidget::row_name};
+
 // A label that is drawn in the headings of a grid, and has no widget of its own.
-class HeadingView : public FieldView {
+class HeadingView final : public FieldView {
   public:
-    HeadingView(Label& label, GridWidget* grid, int place, QString otherwise)
-        : label_(label), grid_(grid), place_(place), otherwise_(std::move(otherwise)) {}
+    HeadingView(Label& label, GridWidget* grid, const Headings& headings, int place,
+                QString otherwise)
+        : label_(label),
+          grid_(grid),
+          headings_(headings),
+          place_(place),
+          otherwise_(std::move(otherwise)) {}
 
     Field& field() const override { return label_; }
     QWidget* widget() const override { return nullptr; }
-    void follow() override { put(wanted()); }
+    void follow() override { (grid_->*headings_.put)(place_, wanted()); }
     QString difference() const override {
-        if (stands() == wanted()) return {};
-        return QStringLiteral("says \"%1\" in the headings").arg(stands());
+        const QString stands = (grid_->*headings_.name)(place_);
+        if (stands == wanted()) return {};
+        return QStringLiteral("says \"%1\" in the headings").arg(stands);
     }
-
-  protected:
-    GridWidget* grid() const { return grid_; }
-    int place() const { return place_; }
-    virtual void put(const QString& text) = 0;
-    virtual QString stands() const = 0;
 
   private:
     QString wanted() const { return label_.visible() ? shown(label_.text()) : otherwise_; }
 
     Label& label_;
     GridWidget* grid_;
+    Headings headings_;
     int place_;  // of the column or row, from 0
     QString otherwise_;
-};
-
-class ColumnNameView : public HeadingView {
-  public:
-    using HeadingView::HeadingView;
-
-  protected:
-    void put(const QString& text) override { grid()->name_column(place(), text); }
-    QString stands() const override { return grid()->column_name(place()); }
-};
-
-class RowNameView : public HeadingView {
-  public:
-    using HeadingView::HeadingView;
-
-  protected:
-    void put(const QString& text) override { grid()->name_row(place(), text); }
-    QString stands() const override { return grid()->row_name(place()); }
 };
 
 }  // namespace
 
 std::unique_ptr<FieldView> column_name_view(Label& label, GridWidget* grid, int column,
                                             const QString& otherwise) {
-    return std::make_unique<ColumnNameView>(label, grid, column, otherwise);
+    return std::make_unique<HeadingView>(label, grid, columns, column, otherwise);
 }
 
 std::unique_ptr<FieldView> row_name_view(Label& label, GridWidget* grid, int row) {
-    return std::make_unique<RowNameView>(label, grid, row, QString());
+    return std::make_unique<HeadingView>(label, grid, rows, row, QString());
 }
 
 }  // namespace brooklander::desktop

@@ -94,8 +94,11 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
 
 void GridWidget::mouseMoveEvent(QMouseEvent* event) {
     if (dragged_column_) {
-        widths_by_hand_[*dragged_column_] =
-            std::max(narrowest, event->pos().x() - column_left(*dragged_column_));
+        int width = event->pos().x() - column_left(*dragged_column_);
+        // Any wider, it would be kept no more, and be off with its border while the others are
+        // scrolled.
+        if (is_kept(*dragged_column_)) width = std::min(width, widest_kept());
+        widths_by_hand_[*dragged_column_] = std::max(narrowest, width);
         measure();
         read_page();
         viewport()->update();

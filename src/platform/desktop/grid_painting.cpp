@@ -1,7 +1,6 @@
 // How the cells of a grid look, and what it says in place of rows.
 #include <QPainter>
 
-#include "platform/desktop/colours.h"
 #include "platform/desktop/grid_widget.h"
 
 namespace brooklander::desktop {

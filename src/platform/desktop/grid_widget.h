@@ -14,6 +14,7 @@
 
 #include "platform/desktop/colours.h"
 #include "platform/desktop/field_view.h"
+#include "platform/desktop/heading_names.h"
 #include "shared/grid.h"
 
 namespace brooklander::desktop {
@@ -54,10 +55,14 @@ class GridWidget : public QAbstractScrollArea {
 
     // Names a column or a row in its heading, before what stands there otherwise; an empty name
     // gives that its place back.
-    void name_column(int column, const QString& name);
+    void name_column(int column, const QString& name) { name_columns(column, {name}); }
     void name_row(int row, const QString& name);
-    QString column_name(int column) const;
-    QString row_name(int row) const;
+    QString column_name(int column) const { return column_names_.at(column); }
+    QString row_name(int row) const { return row_names_.at(row); }
+
+    // The same for columns side by side. Each naming that changes anything has the widget measure
+    // its texts anew, however many names there are in it.
+    void name_columns(int first, const QStringList& names);
 
     // Leaves the headings of rows without a name empty, for a grid that counts its rows itself.
     void drop_row_numbers();
@@ -92,6 +97,9 @@ class GridWidget : public QAbstractScrollArea {
     int shown_rows() const { return std::max(0, data_rows()); }  // in sight or not
     int shown_columns() const { return columns_; }
     QString heading_text(int column) const { return heading_of(column); }
+    QString row_heading_text(int row) const {  // of a row below the headings, from 0
+        return row_heading_of(row + fixed_rows_);
+    }
     int rows_in_view() const;  // the whole rows that fit
 
   protected:
@@ -130,6 +138,7 @@ class GridWidget : public QAbstractScrollArea {
         return lefts_[std::size_t(column) + 1] - lefts_[std::size_t(column)];
     }
     int kept_width() const;  // of the first column while it stays; 0 otherwise
+    int widest_kept() const { return (viewport()->width() - row_heading_) / 2; }
     bool is_kept(int column) const { return column == 0 && kept_width() > 0; }
     // Where the columns begin that are scrolled.
     int scrolled_left() const { return row_heading_ + kept_width(); }
@@ -172,8 +181,8 @@ class GridWidget : public QAbstractScrollArea {
     bool shares_width_ = false;
     bool numbers_rows_ = true;
     bool keeps_first_column_ = false;
-    std::map<int, QString> column_names_;
-    std::map<int, QString> row_names_;
+    HeadingNames column_names_;
+    HeadingNames row_names_;
 
     // The grid as it was when the widget last followed it.
     int rows_ = 0;

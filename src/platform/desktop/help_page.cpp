@@ -64,6 +64,7 @@ void HelpPage::show_file(std::string_view path) {
         html_ = QStringLiteral("<h2>There is no help to show</h2><p>%1</p>")
                     .arg(QString::fromStdString(failure.what()).toHtmlEscaped());
     }
+    read_pictures();
     places_.clear();
     show_page();
     verticalScrollBar()->setValue(0);
@@ -73,9 +74,8 @@ void HelpPage::show_file(std::string_view path) {
 void HelpPage::show_page() {
     const bool was_showing = std::exchange(showing_, true);
     fitted_width_ = viewport()->width();
-    pictures_.clear();
     document()->setDefaultStyleSheet(style_sheet(own_colours()));
-    setHtml(with_words_for_missing_pictures(html_));
+    setHtml(html_);
     headings_.clear();
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (const int level = block.blockFormat().headingLevel(); level > 0)
@@ -84,16 +84,23 @@ void HelpPage::show_page() {
     showing_ = was_showing;
 }
 
-QString HelpPage::with_words_for_missing_pictures(QString html) const {
+// Those that are missing give way to their words in the text.
+void HelpPage::read_pictures() {
+    pictures_.clear();
     qsizetype from = 0;
     for (;;) {
-        const auto match = picture_element().match(html, from);
-        if (!match.hasMatch()) return html;
+        const auto match = picture_element().match(html_, from);
+        if (!match.hasMatch()) return;
         from = match.capturedEnd();
-        if (!picture_bytes(match.captured(1)).isEmpty()) continue;
+        const QString name = QUrl(match.captured(1)).toString();  // as the toolkit asks for it
+        if (pictures_.contains(name)) continue;
+        if (QByteArray bytes = picture_bytes(name); !bytes.isEmpty()) {
+            pictures_[name] = std::move(bytes);
+            continue;
+        }
         const QString words = QStringLiteral("<i>[%1]</i>").arg(match.captured(2));
-        html.replace(match.capturedStart(), match.capturedLength(), words);
         from = match.capturedStart() + words.size();
+        html_.replace(match.capturedStart(), match.capturedLength(), words);
     }
 }
 
@@ -110,10 +117,9 @@ QByteArray HelpPage::picture_bytes(const QString& name) const {
 
 // No wider than the text, and never larger than it is; on a fine screen with all the dots that
 // there are.
-QImage HelpPage::fitted(const QString& name) const {
+QImage HelpPage::fitted(const QByteArray& bytes) const {
     // What is painted on must not have a table of colours.
-    QImage image =
-        QImage::fromData(picture_bytes(name)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QImage image = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return image;
     const int room = std::max(viewport()->width() - 2 * page_margin - item_indent, 100);
     const int width = std::min(image.width(), room);
@@ -130,8 +136,8 @@ QImage HelpPage::fitted(const QString& name) const {
 
 QVariant HelpPage::loadResource(int type, const QUrl& name) {
     if (type != QTextDocument::ImageResource) return {};
-    pictures_.push_back(name.toString());
-    return fitted(name.toString());
+    const auto picture = pictures_.find(name.toString());
+    return picture == pictures_.end() ? QVariant() : fitted(picture->second);
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event) {
@@ -146,8 +152,8 @@ void HelpPage::fit_pictures() {
     if (viewport()->width() == fitted_width_) return;
     const Place before = place();
     fitted_width_ = viewport()->width();
-    for (const QString& name : std::as_const(pictures_)) {
-        document()->addResource(QTextDocument::ImageResource, QUrl(name), fitted(name));
+    for (const auto& [name, bytes] : pictures_) {
+        document()->addResource(QTextDocument::ImageResource, QUrl(name), fitted(bytes));
     }
     document()->markContentsDirty(0, document()->characterCount());
     scroll_to(before);

@@ -1,9 +1,11 @@
 // The text of the help with its pictures, as the help window shows it.
 #pragma once
 
-#include <QPointer>
 #include <QTextBrowser>
 #include <QTimer>
+#include <functional>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "platform/files.h"
@@ -60,13 +62,13 @@ class HelpPage : public QTextBrowser {
     int top_of_paragraph(int position) const;
     void fit_pictures();
     QByteArray picture_bytes(const QString& name) const;
-    QImage fitted(const QString& name) const;
-    QString with_words_for_missing_pictures(QString html) const;
+    QImage fitted(const QByteArray& bytes) const;
+    void read_pictures();
 
     const Files& files_;
     std::string folder_;
-    QString html_;
-    QStringList pictures_;
+    QString html_;                            // with words for the pictures that are missing
+    std::map<QString, QByteArray> pictures_;  // their files, read once
     std::vector<Heading> headings_;
     std::vector<Place> places_;
     int fitted_width_ = 0;

@@ -7,16 +7,18 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
+#include <algorithm>
 
+#include "platform/desktop/draw.h"
 #include "platform/desktop/help_page.h"
 #include "platform/desktop/theme.h"
 
 namespace brooklander::desktop {
 namespace {
 
-constexpr int contents_width = 290;
-constexpr int entry_height = 24;
-constexpr int find_width = 220;
+constexpr int contents_in_letters = 41;
+constexpr int find_in_letters = 31;
+constexpr int least_entry_height = 24;
 constexpr int lowest_level_listed = 3;
 
 }  // namespace
@@ -64,14 +66,14 @@ class HelpWindow::Viewer : public QWidget {
     void lay_out() {
         contents_->setObjectName(QStringLiteral("helpContents"));
         contents_->setAccessibleName(QStringLiteral("Contents"));
-        contents_->setFixedWidth(contents_width);
+        contents_->setFixedWidth(contents_->fontMetrics().averageCharWidth() * contents_in_letters);
         contents_->setTextElideMode(Qt::ElideRight);
         contents_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         back_->setObjectName(QStringLiteral("helpBack"));
         find_->setObjectName(QStringLiteral("helpFind"));
         find_->setAccessibleName(QStringLiteral("Find"));
         find_->setPlaceholderText(QStringLiteral("Find"));
-        find_->setFixedWidth(find_width);
+        keep_width(find_, find_in_letters);
         found_->setObjectName(QStringLiteral("helpFound"));
         mark(*found_, "quiet");
 
@@ -136,11 +138,12 @@ class HelpWindow::Viewer : public QWidget {
 
     void list_headings() {
         contents_->clear();
+        const int height = std::max(least_entry_height, contents_->fontMetrics().height() + 8);
         for (const HelpPage::Heading& heading : page_->headings()) {
             if (heading.level > lowest_level_listed) continue;
             const QString indent(heading.level == lowest_level_listed ? 4 : 0, u' ');
             auto* const item = new QListWidgetItem(indent + heading.text, contents_);
-            item->setSizeHint(QSize(0, entry_height));
+            item->setSizeHint(QSize(0, height));
             item->setData(Qt::UserRole, heading.position);
             if (heading.level < lowest_level_listed) {
                 item->setFont(font_larger_by(0, QFont::DemiBold));

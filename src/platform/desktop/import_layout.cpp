@@ -8,6 +8,7 @@
 #include "import/column_assignment.h"
 #include "platform/desktop/layouts.h"
 #include "platform/desktop/theme.h"
+#include "platform/desktop/wizard_parts.h"
 #include "shared/text.h"
 
 namespace brooklander::desktop {
@@ -18,16 +19,6 @@ using Display = FrmImportFileDisplay;
 // The underlined letters of the category buttons, in the order of the categories.
 constexpr std::array<char, categories.size()> category_letters{'S', 'D', 'T', 'A',
                                                                'p', 'm', 'l', 'R'};
-
-// A question with a Yes and a No beside it.
-Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, const QString& text = {}) {
-    Card* const card = draw.card(panel);
-    const auto [yes_button, no_button] = draw.to_go_on(card, yes, no);
-    if (!text.isEmpty()) card->head()->addWidget(draw.text(text, card), 2);
-    card->head()->addWidget(yes_button);
-    card->head()->addWidget(no_button);
-    return card;
-}
 
 // The file in work on the left, where its values come from on the right.
 QHBoxLayout* files_line(Display& display, Draw& draw) {
@@ -52,7 +43,7 @@ QHBoxLayout* files_line(Display& display, Draw& draw) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(between_cards);
     for (Card* const card : {file, configuration, vox}) {
-        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        keep_height(card);
         line->addWidget(card, 1);
     }
     return line;
@@ -89,6 +80,15 @@ Card* filler_card(Display& display, Draw& draw) {
     return card;
 }
 
+Card* same_selections_card(Display& display, Draw& draw) {
+    constexpr int behind_title = 1;
+    Card* const card =
+        question(display.frameSameSelections, display.cmdColumnYes, display.cmdColumnNo, draw);
+    QLabel* const text = draw.text(QStringLiteral("Use Existing Column Selections ?"), card);
+    card->head()->insertWidget(behind_title, text, 2);
+    return card;
+}
+
 // Mark, button, column number and Clear of one category, in a row of a grid.
 void add_category(Display& display, const Category& category, int number, QGridLayout* grid,
                   int grid_row, int grid_column, Draw& draw) {
@@ -101,7 +101,7 @@ void add_category(Display& display, const Category& category, int number, QGridL
         draw.button(display.*category.button, category_letters[static_cast<std::size_t>(number)]);
     if (category.required) button->setFont(font_larger_by(0, QFont::Bold));
     mark(*button, "category");
-    display.lblSelectedCategory.observe([&display, &category, button] {
+    tell_of(button, {&display.lblSelectedCategory}, [&display, &category, button] {
         set_mark(*button, "active", display.lblSelectedCategory.text() == category.text);
     });
     button->setMinimumWidth(button->fontMetrics().averageCharWidth() * 21);
@@ -155,7 +155,7 @@ Card* columns_card(Display& display, Draw& draw) {
     constexpr int rows_of_group = 4;
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(between_controls);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(close_together);
     int number = 0;
     for (const Category& category : categories) {
         const int group = number / rows_of_group;
@@ -287,7 +287,7 @@ Card* table_card(Display& display, Draw& draw) {
 QHBoxLayout* of_readable_width(QWidget* card) {
     constexpr int widest_in_letters = 170;
     card->setMaximumWidth(card->fontMetrics().averageCharWidth() * widest_in_letters);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     auto* const line = new QHBoxLayout;
     line->addWidget(card, 1);
     line->addStretch();
@@ -303,10 +303,8 @@ void lay_out_import(FrmImportFileDisplay& display, Draw& draw) {
          {question(display.frameImportConfirm, display.cmdYes, display.cmdNo, draw),
           question(display.frameChar, display.cmdCharYes, display.cmdCharNo, draw),
           characteristics_card(display, draw), filler_card(display, draw),
-          question(display.frameSameSelections, display.cmdColumnYes, display.cmdColumnNo, draw,
-                   QStringLiteral("Use Existing Column Selections ?")),
-          columns_card(display, draw), row_card(display, draw), output_card(display, draw),
-          converted_card(display, draw)}) {
+          same_selections_card(display, draw), columns_card(display, draw), row_card(display, draw),
+          output_card(display, draw), converted_card(display, draw)}) {
         page->addLayout(of_readable_width(card));
     }
     page->addWidget(table_card(display, draw), 1);

@@ -9,22 +9,15 @@ namespace {
 
 Card* file_sheet(FrmLogger& logger, Draw& draw) {
     Card* const sheet = draw.sheet();
-    sheet->content()->addLayout(chosen_line(QStringLiteral("Data Logger File:"),
-                                            logger.lblSelectedFile, nullptr, sheet, draw));
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Data Logger File:"), sheet, logger.lblSelectedFile, draw);
+    sheet->content()->addLayout(chosen);
     return sheet;
 }
 
 Card* note_card(FrmLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.frameNote);
     card->content()->addWidget(draw.note(logger.lblNote));
-    return card;
-}
-
-Card* question_card(FrmLogger& logger, Draw& draw) {
-    Card* const card = draw.card(logger.frameImport);
-    const auto [yes, no] = draw.to_go_on(card, logger.cmdYes, logger.cmdNo);
-    card->head()->addWidget(yes);
-    card->head()->addWidget(no);
     return card;
 }
 
@@ -40,23 +33,10 @@ Card* contents_sheet(FrmLogger& logger, Draw& draw) {
     return sheet;
 }
 
-// A list below its caption, which leads to it.
-QVBoxLayout* captioned(QLabel* caption, GridWidget* list) {
-    caption->setBuddy(list);
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(caption);
-    column->addWidget(list, 1);
-    return column;
-}
-
 QVBoxLayout* organizations(FrmLogger& logger, Card* card, Draw& draw) {
     QLabel* const caption = draw.text(with_mnemonic("Organizations", 'O'), card);
-    return captioned(
-        caption,
-        draw.choices(logger.MSHFlexOrganization, QStringLiteral("Organizations"),
-                     {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
-                      .none = QStringLiteral("KELDAR holds no organization yet.")}));
+    return captioned(caption, draw.choices(logger.MSHFlexOrganization,
+                                           QStringLiteral("Organizations"), organization_texts()));
 }
 
 // A list that waits for a choice in another one; its caption comes with its rows.
@@ -94,21 +74,11 @@ Card* lists_card(FrmLogger& logger, Draw& draw) {
 
 Card* chosen_card(FrmLogger& logger, Draw& draw) {
     Card* const card = draw.card(logger.FrameDetailsDisplay);
-    auto* const form = new QGridLayout;
-    form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
-    const auto add = [&](int row, const QString& caption, Label& value, int columns) {
-        form->addWidget(draw.text(caption, card), row, 0);
-        form->addWidget(draw.value(value, caption), row, 1, 1, columns);
-    };
-    add(0, QStringLiteral("Organization:"), logger.lblOrganization, 1);
-    ValueLabel* const name =
-        draw.value(logger.lblOrganizationName, QStringLiteral("Organization name"));
-    name->drop_dash();
-    form->addWidget(name, 0, 2);
-    add(1, QStringLiteral("Installation ID:"), logger.lblInstallationID, 2);
-    add(2, QStringLiteral("Log File:"), logger.lblLogFile, 2);
-    form->setColumnStretch(2, 1);
+    QGridLayout* const form = chosen_form();
+    add_chosen(form, QStringLiteral("Organization:"), card, logger.lblOrganization, draw,
+               &logger.lblOrganizationName);
+    add_chosen(form, QStringLiteral("Installation ID:"), card, logger.lblInstallationID, draw);
+    add_chosen(form, QStringLiteral("Log File:"), card, logger.lblLogFile, draw);
     card->content()->addLayout(form);
     return card;
 }
@@ -132,12 +102,12 @@ void lay_out_logger(FrmLogger& logger, Draw& draw) {
     QVBoxLayout* const page = draw.window().page();
     page->addWidget(draw.title());
     const auto add = [page](Card* card) {
-        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        keep_height(card);
         page->addWidget(card);
     };
     add(file_sheet(logger, draw));
     add(note_card(logger, draw));
-    add(question_card(logger, draw));
+    add(question(logger.frameImport, logger.cmdYes, logger.cmdNo, draw));
     page->addWidget(contents_sheet(logger, draw), 1);
     page->addWidget(lists_card(logger, draw), 1);
     add(chosen_card(logger, draw));

@@ -1,4 +1,3 @@
-#include <QCheckBox>
 #include <QPushButton>
 
 #include "platform/desktop/layouts.h"
@@ -39,10 +38,10 @@ Card* group_card(FrmLoggerResults& results, Draw& draw) {
     lists->addWidget(characteristics(results, draw), 3);
     card->content()->addLayout(lists, 1);
 
-    QHBoxLayout* const line = chosen_line(QStringLiteral("Characteristic Group:"),
-                                          results.lblCharGroup, nullptr, card, draw);
-    line->addWidget(draw.filled(results.cmdConvert, 'v'));
-    card->content()->addLayout(line);
+    QGridLayout* const chosen = chosen_form();
+    add_chosen(chosen, QStringLiteral("Characteristic Group:"), card, results.lblCharGroup, draw);
+    chosen->addWidget(draw.filled(results.cmdConvert, 'v'), 0, 3);
+    card->content()->addLayout(chosen);
     return card;
 }
 
@@ -52,13 +51,9 @@ Card* converted_card(FrmLoggerResults& results, Draw& draw) {
     card->content()->addWidget(
         draw.value(results.lblConvertedFile, shown(results.frameConverted.text())));
     card->content()->addWidget(draw.note(results.lblReady));
-    QCheckBox* const another = draw.tick_box(results.chkYes, 'I');
-    QCheckBox* const quit = draw.tick_box(results.chkNo, 'Q');
-    QLabel* const note =
-        draw.still_needed(results.cmdContinue, {}, QStringLiteral("Choose what comes next."));
-    card->content()->addLayout(foot({another, quit}, note, draw.filled(results.cmdContinue, 'C')));
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    draw.window().asks(card, another, nullptr);
+    ask_by_boxes(card, {results.chkYes, 'I'}, {results.chkNo, 'Q'}, results.cmdContinue, 'C',
+                 QStringLiteral("Choose what comes next."), draw);
+    keep_height(card);
     return card;
 }
 

@@ -106,8 +106,7 @@ void lay_out_manager(FrmPreferences& manager, Draw& draw) {
                                       manager.cmdReplaceNo, draw),
                              question(manager.frameConfirm, manager.cmdYes, manager.cmdNo, draw),
                              description_card(manager, draw)}) {
-        card->setFixedWidth(card->fontMetrics().averageCharWidth() * left_in_letters);
-        card->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
+        keep_width(card, left_in_letters);
         left->addWidget(card);
     }
     Card* const files = files_card(manager, draw);
@@ -120,7 +119,7 @@ void lay_out_manager(FrmPreferences& manager, Draw& draw) {
     right->addWidget(view_card(manager, draw), 1);
     Card* const remove = question(manager.frameConfirmDelete, manager.cmdFileDeleteYes,
                                   manager.cmdFileDeleteNo, draw);
-    remove->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(remove);
     right->addWidget(remove);
     right->addStretch();
 

@@ -21,8 +21,6 @@ struct Controls {
     QPushButton* search;
     QComboBox* matches;
     QPushButton* translate;
-    QPushButton* yes;
-    QPushButton* no;
 };
 
 // All of the text is marked, so that typing begins another search.
@@ -47,7 +45,7 @@ void go_on_from_search(const NameTranslation& translation, const Controls& contr
 
 // A row is worked from step to step and back to the names without a Tab. The handlers here run
 // behind those of the fields.
-void lead_keyboard(const NameTranslation& translation, const Controls& controls) {
+void lead_keyboard(const NameTranslation& translation, const Controls& controls, Draw& draw) {
     controls.names->on_click = [click = controls.names->on_click, controls](GridCell cell) {
         click(cell);
         begin_search_text(controls.search_text);
@@ -60,9 +58,9 @@ void lead_keyboard(const NameTranslation& translation, const Controls& controls)
     };
     QObject::connect(controls.search, &QPushButton::clicked, controls.search,
                      [&translation, controls] { go_on_from_search(translation, controls); });
-    lead_on(controls.translate, controls.yes);
-    lead_on(controls.yes, controls.names);
-    lead_on(controls.no, controls.translate);
+    draw.lead_on(translation.cmdChange, translation.cmdYes);
+    draw.lead_on(translation.cmdYes, translation.MSFlexChar);
+    draw.lead_on(translation.cmdNo, translation.cmdChange);
 }
 
 // The names and their translations.
@@ -104,11 +102,9 @@ Card* search_sheet(NameTranslation& translation, const TranslationParts& parts, 
     controls.search = draw.button(translation.cmdDisplay, 'S');
     QLabel* const before =
         draw.text(QStringLiteral("Select a name in the list to search for it."), sheet);
-    const auto tell = [&options = translation.frameOptions, before] {
+    tell_of(before, {&translation.frameOptions}, [&options = translation.frameOptions, before] {
         before->setVisible(!options.visible());
-    };
-    translation.frameOptions.observe(tell);
-    tell();
+    });
     sheet->content()->addWidget(before);
     sheet->content()->addWidget(search);
     sheet->content()->addLayout(row({controls.search}, Side::right));
@@ -130,9 +126,7 @@ Card* match_sheet(NameTranslation& translation, Controls& controls, Draw& draw) 
         before->setVisible(empty && !searched);
         none->setVisible(empty && searched);
     };
-    translation.frameMatch.observe(tell);
-    translation.cmbCharacteristics.observe(tell);
-    tell();
+    tell_of(sheet, {&translation.frameMatch, &translation.cmbCharacteristics}, tell);
 
     sheet->content()->addWidget(match);
     sheet->content()->addWidget(before);
@@ -156,9 +150,8 @@ Card* translate_sheet(NameTranslation& translation, Controls& controls, Draw& dr
     form->addWidget(controls.translate, 2, 0);
     form->addWidget(draw.value(translation.lblChange, shown(translation.cmdChange.text())), 2, 1);
     form->addWidget(draw.caption(translation.lblAccept), 3, 0);
-    controls.yes = draw.button(translation.cmdYes, 'Y');
-    controls.no = draw.button(translation.cmdNo, 'N');
-    form->addLayout(row({controls.yes, controls.no}), 3, 1);
+    form->addLayout(
+        row({draw.button(translation.cmdYes, 'Y'), draw.button(translation.cmdNo, 'N')}), 3, 1);
     form->setColumnStretch(1, 1);
     sheet->content()->addLayout(form);
     sheet->content()->addWidget(draw.section(translation.frameAutoTranslate));
@@ -191,7 +184,7 @@ void lay_out_name_translation(NameTranslation& translation, const TranslationPar
     whole->addLayout(flow);
     whole->addStretch(1);
     draw.window().page()->addLayout(whole, 1);
-    lead_keyboard(translation, controls);
+    lead_keyboard(translation, controls, draw);
 }
 
 }  // namespace brooklander::desktop

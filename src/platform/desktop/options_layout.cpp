@@ -14,11 +14,8 @@ using Options = FrmPreferencesSampleOption;
 Card* list_section(Panel& panel, char letter, Grid& grid, const QString& none,
                    std::initializer_list<Chosen> all_chosen, Draw& draw) {
     Card* const section = draw.section(panel);
-    GridWidget* const list =
-        draw.choices(grid, shown(panel.text()),
-                     {.waiting = QStringLiteral("Choose an organization first."), .none = none});
-    section->lead_to(list, letter);
-    section->content()->addWidget(list, 1);
+    add_choices(section, letter, grid,
+                {.waiting = QStringLiteral("Choose an organization first."), .none = none}, draw);
     QGridLayout* const form = chosen_form();
     for (const Chosen& chosen : all_chosen) add_chosen(form, chosen, draw);
     section->content()->addLayout(form);
@@ -52,12 +49,11 @@ Card* transports(Options& options, Draw& draw) {
 }
 
 // Comes before the panels, and the keyboard begins here.
-QHBoxLayout* depth_unit(Options& options, QCheckBox*& first, Draw& draw) {
+QHBoxLayout* depth_unit(Options& options, Draw& draw) {
     auto* const line = new QHBoxLayout;
     line->setSpacing(inside_card);
     line->addWidget(draw.caption(options.lblDepthCaption));
-    first = draw.tick_box(options.chkFeet, 'F');
-    line->addWidget(first);
+    line->addWidget(draw.tick_box(options.chkFeet, 'F'));
     line->addWidget(draw.tick_box(options.chkMeters, 'M'));
     line->addWidget(draw.value(options.lblDepthUnits, shown(options.lblDepthCaption.text())), 1);
     return line;
@@ -71,8 +67,7 @@ void lay_out_options(FrmPreferencesSampleOption& options, Draw& draw) {
     Card* const card = draw.sheet();
     QVBoxLayout* const content = card->content();
     content->setSpacing(inside_card);
-    QCheckBox* first = nullptr;
-    content->addLayout(depth_unit(options, first, draw));
+    content->addLayout(depth_unit(options, draw));
     // It holds nothing: it is drawn as a line above the panels with which it comes.
     Card* const line = draw.section(options.frameSampleSpecifications);
     mark(*line, "rule");
@@ -84,7 +79,7 @@ void lay_out_options(FrmPreferencesSampleOption& options, Draw& draw) {
     right->setSpacing(inside_card);
     lists->setSpacing(inside_card);
     lists->addWidget(projects(options, draw), 1);
-    draw.begins_in(options.FrameProject, first);
+    draw.begins_in(options.FrameProject, draw.widget_of(options.chkFeet));
     right->addWidget(persons(options, draw), 1);
     right->addWidget(transports(options, draw), 1);
     lists->addLayout(right, 1);

@@ -40,7 +40,7 @@ Card::Card(QWidget* parent)
 void Card::drop_border() {
     set_mark(*this, "card", false);
     layout()->setContentsMargins(0, 0, 0, 0);
-    layout()->setSpacing(4);
+    layout()->setSpacing(close_together);
     title_->setFont(font_larger_by(0, QFont::DemiBold));
 }
 

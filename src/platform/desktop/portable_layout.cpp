@@ -18,7 +18,7 @@ Card* display_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameDisplay);
     auto* const form = new QGridLayout;
     form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
+    form->setVerticalSpacing(close_together);
     int place = 0;
     const auto add = [&](Label& caption, Label& value) {
         const int column = place % in_a_row * 2;
@@ -35,11 +35,11 @@ Card* display_card(Portable& portable, Draw& draw) {
     add(portable.lblStartDateCaption, portable.lblStartDate);
     add(portable.lblStartTimeCaption, portable.lblStartTime);
     card->content()->addLayout(form);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 
-Card* lines_card(Portable& portable, QPushButton*& go_on, Draw& draw) {
+Card* lines_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameLines);
     QLabel* const caption = draw.caption(portable.lblLines, 'D');
     caption->setWordWrap(false);
@@ -48,15 +48,15 @@ Card* lines_card(Portable& portable, QPushButton*& go_on, Draw& draw) {
     QLabel* const note = draw.still_needed(
         portable.cmdContinue,
         {{portable.txtLines, portable.txtLines, QStringLiteral("number of data lines")}});
-    go_on = draw.filled(portable.cmdContinue, 'C');
-    card->content()->addLayout(foot({caption, box}, note, go_on));
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    card->content()->addLayout(foot({caption, box}, note, draw.filled(portable.cmdContinue, 'C')));
+    keep_height(card);
     return card;
 }
 
-Card* labels_card(Portable& portable, GridWidget*& labels, Draw& draw) {
+Card* labels_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameLabelLines);
-    labels = draw.grid(portable.MSHFlexLabels, shown(portable.frameLabelLines.text()));
+    GridWidget* const labels =
+        draw.grid(portable.MSHFlexLabels, shown(portable.frameLabelLines.text()));
     labels->use_all_width();
     labels->drop_row_numbers();
     labels->set_empty_text(QStringLiteral(
@@ -78,10 +78,11 @@ GridWidget* results_grid(Portable& portable, Draw& draw) {
     draw.name_row(results, 0, portable.lblRowId);
     draw.name_column(results, 0, portable.lblResultLineColumn);
     draw.name_column(results, Portable::label_column, portable.lblResultLabelColumn);
+    QStringList names;
     for (int column = Portable::first_result_column; column < Portable::result_columns; ++column) {
-        const int number = column - Portable::first_result_column + 1;
-        results->name_column(column, QStringLiteral("Result %1").arg(number));
+        names.push_back(QStringLiteral("Result %1").arg(names.size() + 1));
     }
+    results->name_columns(Portable::first_result_column, names);
     return results;
 }
 
@@ -108,11 +109,8 @@ Card* results_card(Portable& portable, Draw& draw) {
 
 Card* enter_more_card(Portable& portable, Draw& draw) {
     Card* const card = draw.card(portable.frameEnterMoreData);
-    QCheckBox* const yes = draw.tick_box(portable.chkDataYes, 'Y');
-    QCheckBox* const no = draw.tick_box(portable.chkDataNo, 'N');
-    QLabel* const note = draw.still_needed(portable.cmdMoreData, {}, QStringLiteral("Yes or No?"));
-    card->content()->addLayout(foot({yes, no}, note, draw.filled(portable.cmdMoreData, 'm')));
-    draw.window().asks(card, yes, nullptr);
+    ask_by_boxes(card, {portable.chkDataYes, 'Y'}, {portable.chkDataNo, 'N'}, portable.cmdMoreData,
+                 'm', QStringLiteral("Yes or No?"), draw);
     return card;
 }
 
@@ -138,20 +136,18 @@ Card* more_data_card(Portable& portable, Draw& draw) {
 // From the top down: the number of lines and their labels, or the results; what comes after a save
 // below. The room that is left over lies below all.
 void lay_out_portable(FrmPortableDataLogger& portable, Draw& draw) {
-    QPushButton* to_labels = nullptr;
-    GridWidget* labels = nullptr;
     QVBoxLayout* const page = draw.window().page();
     page->addWidget(draw.title());
     page->addWidget(display_card(portable, draw));
-    page->addWidget(lines_card(portable, to_labels, draw));
-    page->addWidget(labels_card(portable, labels, draw), 1);
+    page->addWidget(lines_card(portable, draw));
+    page->addWidget(labels_card(portable, draw), 1);
     page->addWidget(results_card(portable, draw), 1);
-    lead_on(to_labels, labels);
+    draw.lead_on(portable.cmdContinue, portable.MSHFlexLabels);
 
     auto* const after = new QHBoxLayout;
     after->setSpacing(between_cards);
     for (Card* const card : {enter_more_card(portable, draw), more_data_card(portable, draw)}) {
-        card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        keep_height(card);
         after->addWidget(card, 1);
     }
     page->addLayout(after);

@@ -37,47 +37,27 @@ Card* display_card(Samples& samples, Draw& draw) {
     whole->addLayout(right, 1);
     whole->addLayout(answers);
     card->content()->addLayout(whole);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
-}
-
-// A list with its caption, which leads to it.
-struct Captioned {
-    QLabel* caption;
-    GridWidget* list;
-};
-
-Captioned captioned(Label& label, char letter, Grid& grid, const Draw::ListTexts& texts,
-                    Draw& draw) {
-    QLabel* const caption = draw.caption(label, letter);
-    GridWidget* const list = draw.choices(grid, shown(label.text()), texts);
-    caption->setBuddy(list);
-    return {caption, list};
-}
-
-QVBoxLayout* stacked(std::initializer_list<QWidget*> widgets) {
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(4);
-    for (QWidget* const widget : widgets) column->addWidget(widget);
-    return column;
 }
 
 // The procedures on the left; the gear and, below it, its configurations on the right. A procedure
 // that needs no gear leaves the room to the left. The caption of the configurations stands over the
 // word that there are none, and not over their list.
 QHBoxLayout* lists(Samples& samples, Draw& draw) {
-    const Captioned procedures =
-        captioned(samples.lblSampleCollection, 'P', samples.MSHFlexSampleCollection,
-                  {.waiting = QStringLiteral("The organization's procedures are listed here."),
-                   .none = QStringLiteral("This organization has no sample collection procedures "
-                                          "in KELDAR.")},
-                  draw);
-    const Captioned gear = captioned(samples.lblFieldGear, 'F', samples.MSHFlexGear,
-                                     {.waiting = QStringLiteral("Choose a procedure first."),
-                                      .none = QStringLiteral("KELDAR holds no gear of this type. "
-                                                             "Choose another procedure.")},
-                                     draw);
-    QLabel* const caption = draw.caption(samples.lblGearConfigurationList);
+    QLabel* const of_procedures = draw.caption(samples.lblSampleCollection, 'P');
+    GridWidget* const procedures =
+        draw.choices(samples.MSHFlexSampleCollection, shown(samples.lblSampleCollection.text()),
+                     {.waiting = QStringLiteral("The organization's procedures are listed here."),
+                      .none = QStringLiteral("This organization has no sample collection "
+                                             "procedures in KELDAR.")});
+    QLabel* const of_gear = draw.caption(samples.lblFieldGear, 'F');
+    GridWidget* const gear =
+        draw.choices(samples.MSHFlexGear, shown(samples.lblFieldGear.text()),
+                     {.waiting = QStringLiteral("Choose a procedure first."),
+                      .none = QStringLiteral("KELDAR holds no gear of this type. Choose another "
+                                             "procedure.")});
+    QLabel* const of_configurations = draw.caption(samples.lblGearConfigurationList);
     Card* const none = draw.card(samples.frameGearConfigurationError);
     GridWidget* const configurations = draw.choices(
         samples.MSHFlexGearConfiguration, shown(samples.lblGearConfigurationList.text()),
@@ -86,17 +66,17 @@ QHBoxLayout* lists(Samples& samples, Draw& draw) {
 
     auto* const right = new QVBoxLayout;
     right->setSpacing(between_controls);
-    right->addLayout(stacked({gear.caption, gear.list}));
-    right->addLayout(stacked({caption, none, configurations}));
-    share_while_shown(right, 0, 1, {gear.list});
+    right->addLayout(captioned(of_gear, gear));
+    right->addLayout(stacked({of_configurations, none, configurations}));
+    share_while_shown(right, 0, 1, {gear});
     share_while_shown(right, 1, 1, {configurations});
 
     auto* const both = new QHBoxLayout;
     both->setSpacing(inside_card);
-    both->addLayout(stacked({procedures.caption, procedures.list}));
+    both->addLayout(captioned(of_procedures, procedures));
     both->addLayout(right);
-    share_while_shown(both, 0, 6, {procedures.list});
-    share_while_shown(both, 1, 5, {gear.list, none, configurations});
+    share_while_shown(both, 0, 6, {procedures});
+    share_while_shown(both, 1, 5, {gear, none, configurations});
     return both;
 }
 

@@ -1,19 +1,9 @@
 // The scenario player with windows.
 
-#include "platform/desktop/application.h"
 #include "platform/desktop/drawn_front.h"
-#include "platform/desktop/warnings.h"
 #include "scenario/player.h"
 
 int main(int argc, char** argv) {
     using namespace brooklander;
-    // The application reads its own options from a command line that has none.
-    int no_arguments = 1;
-    std::unique_ptr<QApplication> application;
-    return scenario::run_player(argc, argv, [&](const std::filesystem::path& shots) {
-        if (!desktop::has_display()) qputenv("QT_QPA_PLATFORM", "offscreen");
-        desktop::collect_warnings();
-        application = desktop::make_application(no_arguments, argv);
-        return [shots](const Files& files) { return desktop::drawn_front(files, shots); };
-    });
+    return scenario::run_player(argc, argv, desktop::drawn_front_maker(argv));
 }

@@ -17,7 +17,7 @@ constexpr int details_in_letters = 54;
 QGridLayout* boxes(std::initializer_list<QCheckBox*> boxes, int in_a_row) {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(inside_card);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(close_together);
     int place = 0;
     for (QCheckBox* const box : boxes) {
         grid->addWidget(box, place / in_a_row, place % in_a_row);
@@ -29,12 +29,7 @@ QGridLayout* boxes(std::initializer_list<QCheckBox*> boxes, int in_a_row) {
 
 Card* organization_card(Settings& settings, Draw& draw) {
     Card* const card = draw.card(settings.frameView);
-    GridWidget* const organizations =
-        draw.choices(settings.MSHFlexOrganization, shown(settings.frameView.text()),
-                     {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
-                      .none = QStringLiteral("KELDAR holds no organization yet.")});
-    card->content()->addWidget(organizations, 1);
-    card->lead_to(organizations, 'O');
+    add_choices(card, 'O', settings.MSHFlexOrganization, organization_texts(), draw);
     QGridLayout* const chosen = chosen_form();
     add_chosen(chosen,
                {settings.lblOrganizationCaption, settings.lblSelectedOrganization,
@@ -56,7 +51,7 @@ Card* trip_options_card(Settings& settings, Draw& draw) {
     Card* const message = draw.section(settings.frameTripMessage);
     message->title()->setFont(font_larger_by(0));
     card->content()->addWidget(message);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     return card;
 }
 

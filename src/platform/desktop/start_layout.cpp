@@ -91,14 +91,13 @@ QLabel* what_to_do(FrmStart& start, Draw& draw) {
     sentence->setWordWrap(false);
     const std::array<Panel*, 5> panels{&start.frameOracleLogon, &start.frameOracleError,
                                        &start.frameExit, &start.frameAbout, &start.frameFiles};
-    const auto tell = [&start, panels, sentence] {
+    std::vector<Field*> fields(panels.begin(), panels.end());
+    fields.push_back(&start.mnuFiles);
+    tell_of(sentence, fields, [&start, panels, sentence] {
         sentence->setVisible(start.mnuFiles.enabled() &&
                              std::none_of(panels.begin(), panels.end(),
                                           [](const Panel* panel) { return panel->visible(); }));
-    };
-    start.mnuFiles.observe(tell);
-    for (Panel* const panel : panels) panel->observe(tell);
-    tell();
+    });
     return sentence;
 }
 

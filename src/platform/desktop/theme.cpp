@@ -155,10 +155,9 @@ class OwnStyle : public QProxyStyle {
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override {
-        constexpr int height_of_controls = 28;
         const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
         if (type != CT_ComboBox) return size;
-        return {size.width() + text_in_box, std::max(size.height(), height_of_controls)};
+        return {size.width() + text_in_box, std::max(size.height(), control_height)};
     }
 
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,

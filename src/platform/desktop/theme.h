@@ -12,7 +12,8 @@ namespace brooklander::desktop {
 inline constexpr int between_cards = 12;
 inline constexpr int inside_card = 16;
 inline constexpr int between_controls = 8;
-inline constexpr int control_height = 28;
+inline constexpr int close_together = 4;   // a caption and what it stands over, lines of a form
+inline constexpr int control_height = 28;  // the least; closed lists have it from the style
 
 // The application's font, larger by so many points, and of a weight.
 QFont font_larger_by(qreal points, QFont::Weight weight = QFont::Normal);

@@ -1,5 +1,6 @@
 #include "platform/desktop/wizard_parts.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 
 #include "platform/desktop/theme.h"
@@ -12,7 +13,7 @@ void add_named_file(Card* card, QLabel* caption, Label& name, const QString& spo
     card->head()->setStretch(0, 0);
     card->head()->addWidget(caption);
     card->head()->addWidget(draw.value(name, spoken), 1);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    keep_height(card);
     draw.window().page()->addWidget(draw.title());
     draw.window().page()->addWidget(card);
 }
@@ -30,43 +31,81 @@ void begin_step(Label& caption, Label& name, Draw& draw) {
     add_named_file(draw.sheet(), heading, name, shown(caption.text()), draw);
 }
 
+QVBoxLayout* stacked(std::initializer_list<QWidget*> widgets) {
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(close_together);
+    for (QWidget* const widget : widgets) column->addWidget(widget);
+    return column;
+}
+
+QVBoxLayout* captioned(QLabel* caption, GridWidget* list) {
+    caption->setBuddy(list);
+    QVBoxLayout* const column = stacked({caption, list});
+    column->setStretchFactor(list, 1);
+    return column;
+}
+
+Draw::ListTexts organization_texts() {
+    return {.waiting = QStringLiteral("The organizations of KELDAR are listed here."),
+            .none = QStringLiteral("KELDAR holds no organization yet.")};
+}
+
+GridWidget* add_choices(Card* card, char letter, Grid& grid, const Draw::ListTexts& texts,
+                        Draw& draw) {
+    GridWidget* const list = draw.choices(grid, shown(grid.container()->text()), texts);
+    card->lead_to(list, letter);
+    card->content()->addWidget(list, 1);
+    return list;
+}
+
 QGridLayout* chosen_form() {
     auto* const form = new QGridLayout;
     form->setHorizontalSpacing(between_controls);
-    form->setVerticalSpacing(4);
+    form->setVerticalSpacing(close_together);
     form->setColumnStretch(2, 1);
     return form;
 }
 
-void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw) {
+namespace {
+
+// Returns which row it is.
+int add_value(QGridLayout* form, QLabel* caption, const QString& spoken, Label& value, Label* name,
+              Draw& draw) {
     const int row = form->count() == 0 ? 0 : form->rowCount();
+    form->addWidget(caption, row, 0);
+    form->addWidget(draw.value(value, spoken), row, 1, 1, name == nullptr ? 2 : 1);
+    if (name == nullptr) return row;
+    ValueLabel* const behind = draw.value(*name, spoken + QStringLiteral(" name"));
+    behind->drop_dash();
+    form->addWidget(behind, row, 2);
+    return row;
+}
+
+}  // namespace
+
+void add_chosen(QGridLayout* form, const Chosen& chosen, Draw& draw) {
     const QString spoken = shown(chosen.caption.text());
-    form->addWidget(draw.caption(chosen.caption), row, 0);
-    form->addWidget(draw.value(chosen.value, spoken), row, 1, 1, chosen.name == nullptr ? 2 : 1);
-    if (chosen.name != nullptr) {
-        ValueLabel* const name = draw.value(*chosen.name, spoken + QStringLiteral(" name"));
-        name->drop_dash();
-        form->addWidget(name, row, 2);
-    }
+    const int row =
+        add_value(form, draw.caption(chosen.caption), spoken, chosen.value, chosen.name, draw);
     if (chosen.clear == nullptr) return;
     QPushButton* const clear = draw.button(*chosen.clear);
     clear->setAccessibleName(shown(chosen.clear->text()) + u' ' + spoken);
     form->addWidget(clear, row, 3);
 }
 
-QHBoxLayout* chosen_line(const QString& caption, Label& value, Label* name, Card* card,
-                         Draw& draw) {
+void add_chosen(QGridLayout* form, const QString& caption, Card* card, Label& value, Draw& draw,
+                Label* name) {
     QLabel* const before = draw.text(caption, card);
     before->setWordWrap(false);
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(between_controls);
-    line->addWidget(before);
-    line->addWidget(draw.value(value, caption), name == nullptr ? 1 : 0);
-    if (name == nullptr) return line;
-    ValueLabel* const behind = draw.value(*name, caption + QStringLiteral(" name"));
-    behind->drop_dash();
-    line->addWidget(behind, 1);
-    return line;
+    add_value(form, before, caption, value, name, draw);
+}
+
+Card* question(Panel& panel, Button& yes, Button& no, Draw& draw, char letter_of_no) {
+    Card* const card = draw.card(panel);
+    const auto [yes_button, no_button] = draw.to_go_on(card, yes, no, letter_of_no);
+    card->head()->addWidget(yes_button);
+    card->head()->addWidget(no_button);
+    return card;
 }
 
 QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButton* button) {
@@ -76,6 +115,15 @@ QHBoxLayout* foot(std::initializer_list<QWidget*> left, QLabel* note, QPushButto
     line->addWidget(note, 1);
     line->addWidget(button);
     return line;
+}
+
+void ask_by_boxes(Card* card, const BoxedAnswer& first, const BoxedAnswer& second, Button& go_on,
+                  char letter, const QString& waiting, Draw& draw) {
+    QCheckBox* const one = draw.tick_box(first.box, first.letter);
+    QCheckBox* const other = draw.tick_box(second.box, second.letter);
+    QLabel* const note = draw.still_needed(go_on, {}, waiting);
+    card->content()->addLayout(foot({one, other}, note, draw.filled(go_on, letter)));
+    draw.window().asks(card, one, nullptr);
 }
 
 }  // namespace brooklander::desktop
