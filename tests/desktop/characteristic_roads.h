@@ -1,8 +1,6 @@
 // How a user comes to the states of the three screens of characteristics.
 #pragma once
 
-#include <functional>
-#include <map>
 #include <string>
 
 #include "characteristics/source_selection.h"
@@ -88,7 +86,7 @@ inline void save_unnamed(DrawnProgram& drawn) {
     });
 }
 
-inline std::map<std::string, std::function<void(DrawnProgram&)>> characteristic_roads() {
+inline Roads characteristic_roads() {
     using Details = FrmCharacteristicDetails;
     return {
         {"source 1 files", choose_sample},

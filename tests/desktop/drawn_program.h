@@ -5,6 +5,9 @@
 #include <QLabel>
 #include <QTest>
 #include <algorithm>
+#include <functional>
+#include <map>
+#include <string>
 
 #include "platform/desktop/job_menu.h"
 #include "platform/desktop/layouts.h"
@@ -61,5 +64,8 @@ struct DrawnProgram : TestProgram {
     std::string failure;
     bool has_ended = false;
 };
+
+// How a user comes to states of the windows, from the start, by the states' names.
+using Roads = std::map<std::string, std::function<void(DrawnProgram&)>>;
 
 }  // namespace brooklander::test

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "desktop/road_answers.h"
 #include "loggers/logger_selection.h"
 
 namespace brooklander::test {
@@ -22,13 +23,8 @@ QueryResult rows_of(std::size_t columns, const std::vector<Values>& rows) {
     return result;
 }
 
-struct Table {
-    const char* mark;  // stands in the statements for it, and in none before them in the list
-    QueryResult answer;
-};
-
-const std::vector<Table>& tables() {
-    static const std::vector<Table> all{
+const std::vector<AnswerTable>& tables() {
+    static const std::vector<AnswerTable> all{
         {"smpl_frac_type_nm",
          rows_of(19, {{{7, "FEN-01         "}, {17, "Temperature, water"}, {8, "deg C     "}},
                       {{7, "FEN-02         "},
@@ -56,10 +52,7 @@ const std::vector<Table>& tables() {
         {"From tsrchgrp",
          rows_of(5, {{{2, "MOORING "}, {3, "All sensors of a mooring, from the surface down"}},
                      {{2, "STAGE   "}, {3, "Stage"}}})},
-        {"From tsmorgan",
-         {{"ORG_ID", "NAME"},
-          {{"MERES   ", "Meres and Tarns Conservancy"},
-           {"NORTHFEN", "North Fen Bureau of Rivers, Reservoirs and Drinking Water Wells"}}}},
+        two_organizations(),
     };
     return all;
 }
@@ -184,16 +177,7 @@ void search_taxon(DrawnProgram& drawn, int matches) {
 
 }  // namespace
 
-QueryResult answer_of_two_fens(const Query& query) {
-    const bool of_the_second = query.statement.find("'NORTHFEN") != std::string::npos;
-    for (const Table& table : tables()) {
-        if (query.statement.find(table.mark) == std::string::npos) continue;
-        QueryResult answer = table.answer;
-        if (of_the_second) answer.rows.clear();
-        return answer;
-    }
-    return {{"COLUMN"}, {}};
-}
+QueryResult answer_of_two_fens(const Query& query) { return answer_from(tables(), query); }
 
 void open_setup(DrawnProgram& drawn) {
     log_on_to_the_fens(drawn);
@@ -219,7 +203,7 @@ void open_portable(DrawnProgram& drawn) {
     });
 }
 
-std::map<std::string, std::function<void(DrawnProgram&)>> logger_roads() {
+Roads logger_roads() {
     return {
         {"logger 1 question", open_logger},
         {"logger 2 organizations", list_organizations},

@@ -1,10 +1,6 @@
 // The states of the windows of data loggers, and of the translation of taxa.
 #pragma once
 
-#include <functional>
-#include <map>
-#include <string>
-
 #include "desktop/drawn_program.h"
 
 namespace brooklander::test {
@@ -20,6 +16,6 @@ void choose_fen(DrawnProgram& drawn, int row);
 // From the start to the screen of results that are typed in by hand.
 void open_portable(DrawnProgram& drawn);
 
-std::map<std::string, std::function<void(DrawnProgram&)>> logger_roads();
+Roads logger_roads();
 
 }  // namespace brooklander::test

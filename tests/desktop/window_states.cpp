@@ -1,5 +1,7 @@
 #include "desktop/window_states.h"
 
+#include <stdexcept>
+
 #include "desktop/characteristic_roads.h"
 #include "desktop/logger_roads.h"
 #include "desktop/wizard_roads.h"
@@ -115,9 +117,9 @@ Roads all_roads() {
              drawn.act([&] { drawn.import_screen().cmdCharYes.press(); });
          }},
     };
-    for (const WizardRoad& road : wizard_roads()) all[road.name] = road.take;
-    for (const Roads& further : {characteristic_roads(), logger_roads()}) {
-        all.insert(further.begin(), further.end());
+    for (Roads further : {wizard_roads(), characteristic_roads(), logger_roads()}) {
+        all.merge(further);
+        if (!further.empty()) throw std::logic_error("Two states are " + further.begin()->first);
     }
     return all;
 }

@@ -1,19 +1,13 @@
 #include "desktop/wizard_roads.h"
 
+#include "desktop/road_answers.h"
+
 namespace brooklander::test {
 namespace {
 
-struct Table {
-    const char* mark;  // stands in the statements for it, and in none before them in the list
-    QueryResult answer;
-};
-
-const std::vector<Table>& tables() {
-    static const std::vector<Table> all{
-        {"From tsmorgan",
-         {{"ORG_ID", "NAME"},
-          {{"MERES   ", "Meres and Tarns Conservancy"},
-           {"NORTHFEN", "North Fen Bureau of Rivers, Reservoirs and Drinking Water Wells"}}}},
+const std::vector<AnswerTable>& tables() {
+    static const std::vector<AnswerTable> all{
+        two_organizations(),
         {"from tsrtrip",
          {{"ID_CODE", "TSRTRIP_ORG_ID", "NAME", "TSRTRIP_IS_NUMBER"},
           {{"SPRING         ", "MERES   ", "All meres, spring turnover", "11"}}}},
@@ -130,16 +124,7 @@ void choose_habitat(DrawnProgram& drawn, int organization) {
 
 }  // namespace
 
-QueryResult answer_of_two_lakes(const Query& query) {
-    const bool of_the_second = query.statement.find("= 'NORTHFEN'") != std::string::npos;
-    for (const Table& table : tables()) {
-        if (query.statement.find(table.mark) == std::string::npos) continue;
-        QueryResult answer = table.answer;
-        if (of_the_second) answer.rows.clear();
-        return answer;
-    }
-    return {{"COLUMN"}, {}};
-}
+QueryResult answer_of_two_lakes(const Query& query) { return answer_from(tables(), query); }
 
 void name_configuration(DrawnProgram& drawn) {
     drawn.database.answers = answer_of_two_lakes;
@@ -152,7 +137,7 @@ void name_configuration(DrawnProgram& drawn) {
     });
 }
 
-std::vector<WizardRoad> wizard_roads() {
+Roads wizard_roads() {
     return {
         {"settings 1 organizations", name_configuration},
         {"settings 2 organization", [](DrawnProgram& drawn) { choose_organization(drawn, 2); }},

@@ -1,10 +1,6 @@
 // The states of the windows in which a configuration is made.
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
-
 #include "desktop/drawn_program.h"
 
 namespace brooklander::test {
@@ -16,11 +12,6 @@ QueryResult answer_of_two_lakes(const Query& query);
 // From the start to the activity settings of a new configuration.
 void name_configuration(DrawnProgram& drawn);
 
-// How a user comes to a state, from the start.
-struct WizardRoad {
-    std::string name;
-    std::function<void(DrawnProgram&)> take;
-};
-std::vector<WizardRoad> wizard_roads();
+Roads wizard_roads();
 
 }  // namespace brooklander::test
