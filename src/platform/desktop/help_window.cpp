@@ -16,7 +16,7 @@
 namespace brooklander::desktop {
 namespace {
 
-constexpr int contents_in_letters = 41;
+constexpr int contents_in_letters = 46;
 constexpr int find_in_letters = 31;
 constexpr int least_entry_height = 24;
 constexpr int lowest_level_listed = 3;
